@@ -1,0 +1,228 @@
+#include "store/FileRecord.h"
+
+#include "store/Stato.h"
+#include "store/Testo.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+struct Canale {
+    int fd = -1;
+    std::size_t lunghezza = 0;
+};
+
+constexpr int PrimoCanale = 1;
+constexpr int UltimoCanale = 3;
+std::array<Canale, UltimoCanale + 1> canali;
+
+Canale& CanaleValido(int canale) {
+    if (canale < PrimoCanale || canale > UltimoCanale) Errore(52);
+    return canali[static_cast<std::size_t>(canale)];
+}
+
+Canale& CanaleAperto(int canale) {
+    Canale& c = CanaleValido(canale);
+    if (c.fd < 0) Errore(52);
+    return c;
+}
+
+[[noreturn]] void ErroreDiSistema() { Errore(NumeroDaErrno(errno)); }
+
+// Record numbers are 32-bit, as in the classic runtime.
+off_t Posizione(const Canale& c, long numero) {
+    if (numero < 1 || numero > 2147483647L) Errore(63);
+    return static_cast<off_t>(numero - 1) * static_cast<off_t>(c.lunghezza);
+}
+
+// The one spelling on disk of each extension and shared file; the system writes them in many.
+constexpr std::array<const char*, 15> Estensioni = {
+    ".MOV", ".Ord", ".MOR", ".TOT", ".RIP", ".chi", ".CAR", ".NRC",
+    ".FOG", ".NRF", ".Iat", ".Ipa", ".Opz", ".Onp", ".spe",
+};
+constexpr std::array<const char*, 7> NomiCondivisi = {
+    "Conti.dat", "RecConti.dat", "Causali.DAT", "RecCausa.dat",
+    "Valute.DAT", "Imposta.DAT", "colori.col",
+};
+
+bool UgualiSenzaCaso(const std::string& a, const std::string& b) { return UCase(a) == UCase(b); }
+
+std::string NomeCanonico(const std::string& nome) {
+    for (const char* condiviso : NomiCondivisi) {
+        if (UgualiSenzaCaso(nome, condiviso)) return condiviso;
+    }
+    for (std::string estensione : Estensioni) {
+        if (nome.size() >= estensione.size()) {
+            std::size_t stelo = nome.size() - estensione.size();
+            if (UgualiSenzaCaso(nome.substr(stelo), estensione)) {
+                return nome.substr(0, stelo) + estensione;
+            }
+        }
+    }
+    return nome;
+}
+
+bool Esiste(const std::string& percorso) {
+    struct stat info;
+    return lstat(percorso.c_str(), &info) == 0;
+}
+
+// The names of a directory, in name order; none when it can't be read.
+std::vector<std::string> NomiIn(const std::string& directory) {
+    std::vector<std::string> nomi;
+    DIR* d = opendir(directory.empty() ? "." : directory.c_str());
+    if (!d) return nomi;
+    while (const dirent* voce = readdir(d)) {
+        std::string nome = voce->d_name;
+        if (nome != "." && nome != "..") nomi.push_back(nome);
+    }
+    closedir(d);
+    std::sort(nomi.begin(), nomi.end());
+    return nomi;
+}
+
+int CanaleLibero() {
+    for (int canale = PrimoCanale; canale <= UltimoCanale; ++canale) {
+        if (canali[static_cast<std::size_t>(canale)].fd < 0) return canale;
+    }
+    Errore(67);
+}
+} // namespace
+
+std::string RisolviNome(const std::string& percorso) {
+    std::size_t barra = percorso.rfind('/');
+    std::string directory = barra == std::string::npos ? "" : percorso.substr(0, barra + 1);
+    std::string nome = NomeCanonico(percorso.substr(directory.size()));
+    if (nome.empty() || Esiste(directory + nome)) return directory + nome;
+    for (const std::string& presente : NomiIn(directory)) {
+        if (UgualiSenzaCaso(presente, nome)) return directory + presente;
+    }
+    return directory + nome;
+}
+
+std::string NomeFileConto(const std::string& estensione) {
+    Stato.CodContoAperto = Trim(Stato.CodContoAperto);
+    return RisolviNome(Stato.PercorsoDati + Trim(Stato.CodContoAperto) + estensione);
+}
+
+std::string NomeFileDati(const std::string& nome) {
+    return RisolviNome(Stato.PercorsoDati + nome);
+}
+
+std::string NomeFileProgramma(const std::string& nome) {
+    return RisolviNome(Stato.PercorsoProgramma + nome);
+}
+
+std::vector<std::string> FileCheIniziano(const std::string& directory,
+                                         const std::string& prefisso) {
+    std::string base = directory.empty() || directory.back() == '/' ? directory : directory + "/";
+    std::string cercato = UCase(prefisso);
+    std::vector<std::string> trovati;
+    for (const std::string& nome : NomiIn(directory)) {
+        if (UCase(nome).compare(0, cercato.size(), cercato) == 0) trovati.push_back(base + nome);
+    }
+    return trovati;
+}
+
+void ApriRecord(const std::string& nome, int lunghezza, int canale) {
+    Canale& c = CanaleValido(canale);
+    if (c.fd >= 0) Errore(55);
+    if (lunghezza < 1) Errore(59);
+    int fd = open(RisolviNome(nome).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (fd < 0) {
+        // With O_CREAT a missing name can only be a missing directory.
+        if (errno == ENOENT) Errore(76);
+        ErroreDiSistema();
+    }
+    c.fd = fd;
+    c.lunghezza = static_cast<std::size_t>(lunghezza);
+}
+
+void ChiudiRecord(int canale) {
+    Canale& c = CanaleValido(canale);
+    if (c.fd >= 0) close(c.fd);
+    c = Canale{};
+}
+
+void ChiudiTutti() {
+    for (int canale = PrimoCanale; canale <= UltimoCanale; ++canale) ChiudiRecord(canale);
+}
+
+void ControllaCanale(int canale, std::size_t lunghezza) {
+    if (CanaleAperto(canale).lunghezza != lunghezza) Errore(59);
+}
+
+void LeggiByte(unsigned char* byte, std::size_t quanti, long numero, int canale) {
+    const Canale& c = CanaleAperto(canale);
+    off_t posizione = Posizione(c, numero);
+    std::size_t letti = 0;
+    while (letti < quanti) {
+        ssize_t n = pread(c.fd, byte + letti, quanti - letti,
+                          posizione + static_cast<off_t>(letti));
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) ErroreDiSistema();
+        if (n == 0) break;
+        letti += static_cast<std::size_t>(n);
+    }
+    std::fill(byte + letti, byte + quanti, 0);
+}
+
+void ScriviByte(const unsigned char* byte, std::size_t quanti, long numero, int canale) {
+    const Canale& c = CanaleAperto(canale);
+    off_t posizione = Posizione(c, numero);
+    std::size_t scritti = 0;
+    while (scritti < quanti) {
+        ssize_t n = pwrite(c.fd, byte + scritti, quanti - scritti,
+                           posizione + static_cast<off_t>(scritti));
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) ErroreDiSistema();
+        scritti += static_cast<std::size_t>(n);
+    }
+}
+
+short LeggiIntero(long numero, int canale) {
+    std::int16_t valore = 0;
+    ControllaCanale(canale, LarghezzaCampo(valore));
+    unsigned char byte[2];
+    LeggiByte(byte, sizeof byte, numero, canale);
+    DecodificaCampo(valore, byte);
+    return valore;
+}
+
+void ScriviIntero(short valore, long numero, int canale) {
+    std::int16_t campo = valore;
+    ControllaCanale(canale, LarghezzaCampo(campo));
+    unsigned char byte[2];
+    CodificaCampo(campo, byte);
+    ScriviByte(byte, sizeof byte, numero, canale);
+}
+
+short LeggiContatore(const std::string& nome) {
+    int canale = CanaleLibero();
+    ApriRecord(nome, 2, canale);
+    try {
+        short n = LeggiIntero(1, canale);
+        ChiudiRecord(canale);
+        return n;
+    } catch (...) {
+        ChiudiRecord(canale);
+        throw;
+    }
+}
+
+void ScriviContatore(const std::string& nome, short n) {
+    int canale = CanaleLibero();
+    ApriRecord(nome, 2, canale);
+    try {
+        ScriviIntero(n, 1, canale);
+    } catch (...) {
+        ChiudiRecord(canale);
+        throw;
+    }
+    ChiudiRecord(canale);
+}

@@ -1,0 +1,111 @@
+#pragma once
+// Random-access record files on channels 1 to 3, and the names of the files.
+//
+// Failures: a channel outside 1 to 3 or not open is 52, opening an open channel 55, a record
+// number below 1 is 63, a record whose length isn't the channel's 59; the system's errors map
+// through NumeroDaErrno, and a missing directory is 76.
+#include "store/Campi.h"
+#include "store/Guasto.h"
+
+#include <cstddef>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+// The names of the files, built in this one place. A name is folded to the one spelling that its
+// extension (or a shared file's name) has on disk, and when the directory already holds the file
+// in another case spelling, as data copied from a case-insensitive disk do, that file is named.
+//
+// An account's file: PercorsoDati + Trim(CodContoAperto) + estensione. The code is stored back
+// trimmed, so that the stem has no blanks at its ends.
+std::string NomeFileConto(const std::string& estensione);
+// A shared file of the data directory: PercorsoDati + nome.
+std::string NomeFileDati(const std::string& nome);
+// A shared file beside the program: PercorsoProgramma + nome.
+std::string NomeFileProgramma(const std::string& nome);
+
+// The folding and the look-up described above, for any path; the primitives pass every name
+// through it.
+std::string RisolviNome(const std::string& percorso);
+
+// The files of a directory whose names start with `prefisso`, compared without regard to case,
+// as full paths in name order; none when the directory is missing.
+std::vector<std::string> FileCheIniziano(const std::string& directory,
+                                         const std::string& prefisso);
+
+// Opens for read and write, creating an empty file when none exists: the program relies on it.
+void ApriRecord(const std::string& nome, int lunghezza, int canale);
+void ChiudiRecord(int canale);    // a channel that isn't open is left alone
+void ChiudiTutti();               // for the failure paths
+
+// The bytes of records `numero` onwards: `quanti` bytes at (numero - 1) * length. What lies past
+// the end of the file reads as zeros. Used by the templates below.
+void LeggiByte(unsigned char* byte, std::size_t quanti, long numero, int canale);
+// Writes at the same place; past the end the file grows and the gap reads as zeros.
+void ScriviByte(const unsigned char* byte, std::size_t quanti, long numero, int canale);
+// Failure 52 when the channel isn't open, 59 when its record length isn't `lunghezza`.
+void ControllaCanale(int canale, std::size_t lunghezza);
+
+// Clears the record, then reads record `numero` (from 1). Past the end of the file the record
+// stays cleared, without failure; a last record cut short gives what is there.
+template <class R> void LeggiRecord(R& record, long numero, int canale) {
+    record = R{};
+    ControllaCanale(canale, R::Lunghezza);
+    unsigned char byte[R::Lunghezza];
+    LeggiByte(byte, R::Lunghezza, numero, canale);
+    Decodifica(record, byte);
+}
+
+// Records `da` to `a` into righe[da] to righe[a], with one read: the whole-file loads of the
+// tables go through here. Failure 9 when `righe` doesn't reach `a`.
+template <class R> void LeggiRecords(std::vector<R>& righe, long da, long a, int canale) {
+    ControllaCanale(canale, R::Lunghezza);
+    if (a < da) return;
+    if (da < 0 || static_cast<std::size_t>(a) >= righe.size()) Errore(9);
+    std::vector<unsigned char> byte(static_cast<std::size_t>(a - da + 1) * R::Lunghezza);
+    LeggiByte(byte.data(), byte.size(), da, canale);
+    for (long n = da; n <= a; ++n) {
+        Decodifica(righe[static_cast<std::size_t>(n)],
+                   byte.data() + static_cast<std::size_t>(n - da) * R::Lunghezza);
+    }
+}
+
+template <class R> void ScriviRecord(const R& record, long numero, int canale) {
+    ControllaCanale(canale, R::Lunghezza);
+    unsigned char byte[R::Lunghezza];
+    Codifica(record, byte);
+    ScriviByte(byte, R::Lunghezza, numero, canale);
+}
+
+// `quanti` records as records `numero` onwards, with one write: the k-th (from 0) is
+// record(k). The whole-file rewrites (.Ord at each new movement) go through here.
+template <class F> void ScriviRecords(F&& record, std::size_t quanti, long numero, int canale) {
+    using R = std::remove_cvref_t<decltype(record(std::size_t{0}))>;
+    ControllaCanale(canale, R::Lunghezza);
+    if (quanti == 0) return;
+    std::vector<unsigned char> byte(quanti * R::Lunghezza);
+    for (std::size_t k = 0; k < quanti; ++k) Codifica(record(k), byte.data() + k * R::Lunghezza);
+    ScriviByte(byte.data(), byte.size(), numero, canale);
+}
+
+// Opens `nome` on `canale`, runs `lavoro` and closes the channel, also when `lavoro` fails, so
+// that a failure reported to the user leaves no channel taken.
+template <class F> void ConRecord(const std::string& nome, int lunghezza, int canale, F&& lavoro) {
+    ApriRecord(nome, lunghezza, canale);
+    try {
+        lavoro();
+    } catch (...) {
+        ChiudiRecord(canale);
+        throw;
+    }
+    ChiudiRecord(canale);
+}
+
+// A bare 16-bit integer on a channel of 2-byte records.
+short LeggiIntero(long numero, int canale);
+void ScriviIntero(short valore, long numero, int canale);
+
+// A counter file (.MOR, .NRC, .NRF, RecConti.dat, RecCausa.dat): the integer of record 1, on a
+// free channel opened and closed here. Missing or empty reads 0 and leaves an empty file.
+short LeggiContatore(const std::string& nome);
+void ScriviContatore(const std::string& nome, short n);

@@ -1,0 +1,3 @@
+#include "store/Stato.h"
+
+StatoApplicazione Stato;

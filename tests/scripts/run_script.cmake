@@ -1,0 +1,16 @@
+# Runs one script in a fresh working directory and compares its output with NAME.expected.
+file(REMOVE_RECURSE ${WORK})
+file(MAKE_DIRECTORY ${WORK})
+get_filename_component(dir ${SCRIPT} DIRECTORY)
+get_filename_component(name ${SCRIPT} NAME_WE)
+execute_process(COMMAND ${DRIVER} ${SCRIPT} WORKING_DIRECTORY ${WORK}
+                OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE rc)
+file(WRITE ${WORK}/actual.txt "${out}")
+file(READ ${dir}/${name}.expected expected)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "marendola-script exited ${rc}: ${err}\n--- output ---\n${out}")
+endif()
+if(NOT out STREQUAL expected)
+  execute_process(COMMAND diff -u ${dir}/${name}.expected ${WORK}/actual.txt)
+  message(FATAL_ERROR "output differs from ${name}.expected")
+endif()
