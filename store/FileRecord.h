@@ -7,6 +7,7 @@
 #include "store/Campi.h"
 #include "store/Guasto.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <type_traits>
@@ -77,15 +78,21 @@ template <class R> void ScriviRecord(const R& record, long numero, int canale) {
     ScriviByte(byte, R::Lunghezza, numero, canale);
 }
 
-// `quanti` records as records `numero` onwards, with one write: the k-th (from 0) is
-// record(k). The whole-file rewrites (.Ord at each new movement) go through here.
+// `quanti` records as records `numero` onwards: the k-th (from 0) is record(k). They go out
+// through one buffer of some 64 KB, a write for each filling: the whole-file rewrites (.Ord at
+// each new movement) cost a few dozen writes and no fresh memory.
 template <class F> void ScriviRecords(F&& record, std::size_t quanti, long numero, int canale) {
     using R = std::remove_cvref_t<decltype(record(std::size_t{0}))>;
     ControllaCanale(canale, R::Lunghezza);
-    if (quanti == 0) return;
-    std::vector<unsigned char> byte(quanti * R::Lunghezza);
-    for (std::size_t k = 0; k < quanti; ++k) Codifica(record(k), byte.data() + k * R::Lunghezza);
-    ScriviByte(byte.data(), byte.size(), numero, canale);
+    constexpr std::size_t PerScrittura = 65536 / R::Lunghezza;
+    std::vector<unsigned char> byte(std::min(quanti, PerScrittura) * R::Lunghezza);
+    for (std::size_t da = 0; da < quanti; da += PerScrittura) {
+        std::size_t fino = std::min(quanti, da + PerScrittura);
+        for (std::size_t k = da; k < fino; ++k)
+            Codifica(record(k), byte.data() + (k - da) * R::Lunghezza);
+        ScriviByte(byte.data(), (fino - da) * R::Lunghezza, numero + static_cast<long>(da),
+                   canale);
+    }
 }
 
 // Opens `nome` on `canale`, runs `lavoro` and closes the channel, also when `lavoro` fails, so

@@ -1,5 +1,6 @@
 #include "store/Guasto.h"
 
+#include "store/FileRecord.h"
 #include "store/Piattaforma.h"
 
 #include <cerrno>
@@ -84,6 +85,8 @@ bool EseguiEvento(const std::function<void()>& evento) {
         numero = 5;
         descrizione = e.what();
     }
+    // A failure abandons the event wherever it was: no file stays open behind it.
+    ChiudiTutti();
     Piattaforma().Guasto(numero, descrizione);
     return false;
 }

@@ -1,0 +1,48 @@
+#include "screen/PiattaformaSenzaSchermo.h"
+
+#include "screen/Schermo.h"
+
+#include <chrono>
+#include <cstdio>
+#include <ctime>
+
+Risposta PiattaformaSenzaSchermo::MsgBox(const std::string& testo, const std::string& titolo,
+                                         Icona, Pulsanti pulsanti, int predefinito) {
+    auto ammesse = RisposteDi(pulsanti);
+    Risposta r = ammesse.at(static_cast<std::size_t>(predefinito) < ammesse.size()
+                                ? static_cast<std::size_t>(predefinito)
+                                : 0);
+    if (!risposte.empty()) {
+        r = risposte.front();
+        risposte.pop_front();
+    }
+    std::string righe;
+    for (char c : testo) {
+        if (c == '\r') continue;
+        righe += c == '\n' ? std::string("\\n") : std::string(1, c);
+    }
+    messaggi.push_back("[" + titolo + "] " + righe + " -> " + NomeRisposta(r));
+    return r;
+}
+
+DataCivile PiattaformaSenzaSchermo::Oggi() {
+    if (oggi) return *oggi;
+    std::time_t t = std::time(nullptr);
+    std::tm locale{};
+    localtime_r(&t, &locale);
+    return {locale.tm_mday, locale.tm_mon + 1, locale.tm_year + 1900};
+}
+
+void PiattaformaSenzaSchermo::Guasto(int numero, const std::string& descrizione) {
+    messaggi.push_back("FAILURE " + std::to_string(numero) + " " + descrizione);
+}
+
+void PiattaformaSenzaSchermo::MostraSchermo(Schermo& schermo, bool modale) {
+    if (modale && cicloModale) cicloModale(schermo);
+}
+
+void PiattaformaSenzaSchermo::StampanteCorpo(double punti) {
+    char testo[32];
+    std::snprintf(testo, sizeof testo, "%g", punti);
+    carta.push_back(std::string("{size ") + testo + "}");
+}
