@@ -4,7 +4,7 @@ JOBS ?= $(shell nproc)
 BUILD := build
 ASAN := build/asan
 DEBS := g++ cmake make libgtest-dev libgmock-dev qt6-base-dev qt6-tools-dev libqt6uitools6 \
-        qt6-qpa-plugins libgl1-mesa-dev fonts-liberation xvfb xauth
+        qt6-qpa-plugins libgl1-mesa-dev fonts-liberation xvfb xauth imagemagick
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
 .PHONY: deps build run test bench clean screenshot

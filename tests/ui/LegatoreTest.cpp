@@ -1,0 +1,361 @@
+// The binder on a screen made for the test, with its widgets built here: what the user does
+// reaches the model once, what the model holds reaches the widgets, and the binder's own writes
+// never come back as the user's.
+#include "ui/Legatore.h"
+#include "screen/PiattaformaSenzaSchermo.h"
+#include "screen/Schermo.h"
+#include "store/Guasto.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+struct Prova {
+    Schermo S{"Prova", "Prova del legatore"};
+    Controllo Nome{S, TipoControllo::Campo, "Nome"};
+    Controllo DataOper{S, TipoControllo::Data, "DataOper"};
+    Controllo Elenco{S, TipoControllo::Lista, "Elenco"};
+    Controllo Valuta{S, TipoControllo::Combo, "Valuta"};
+    Controllo Uno{S, TipoControllo::Opzione, "Uno", "Uno"};
+    Controllo Due{S, TipoControllo::Opzione, "Due", "Due"};
+    Controllo Spunta{S, TipoControllo::Casella, "Spunta", "Spunta"};
+    Controllo OK{S, TipoControllo::Pulsante, "OK", "OK"};
+    Controllo Bandiera{S, TipoControllo::Immagine, "Bandiera"};
+    MatriceControlli Saldi{S, TipoControllo::Etichetta, "Saldi", 0, 1};
+    Controllo Voce{S, TipoControllo::Menu, "Voce", "&Voce"};
+    Controllo Linea{S, TipoControllo::Menu, "Linea", "-"};
+    Controllo Menu{S, TipoControllo::Menu, "Menu", "&Menu"};
+};
+
+struct Legatore : testing::Test {
+    PiattaformaSenzaSchermo porta;
+    Prova p;
+    QWidget radice;
+    std::vector<std::string> eventi;
+
+    template <class W> W* Aggiungi(const char* nome) {
+        auto* w = new W(&radice);
+        w->setObjectName(nome);
+        radice.layout()->addWidget(w);
+        return w;
+    }
+    template <class W> W* Widget(const char* nome) { return radice.findChild<W*>(nome); }
+
+    void SetUp() override {
+        ImpostaPiattaforma(&porta);
+        new QVBoxLayout(&radice);
+        Aggiungi<QLineEdit>("Nome");
+        Aggiungi<QLineEdit>("DataOper");
+        Aggiungi<QListView>("Elenco");
+        Aggiungi<QComboBox>("Valuta");
+        Aggiungi<QRadioButton>("Uno");
+        Aggiungi<QRadioButton>("Due");
+        Aggiungi<QCheckBox>("Spunta");
+        Aggiungi<QPushButton>("OK");
+        Aggiungi<QLabel>("Bandiera");
+        Aggiungi<QLabel>("Saldi_0");
+        Aggiungi<QLabel>("Saldi_1");
+        auto* menu = new QMenu(&radice);
+        menu->setObjectName("Menu");
+        for (const char* nome : {"Voce", "Linea"}) {
+            auto* a = new QAction(&radice);
+            a->setObjectName(nome);
+            menu->addAction(a);
+        }
+        for (Controllo* c : {&p.Nome, &p.DataOper, &p.Elenco, &p.Valuta, &p.OK}) {
+            std::string n = c->nome;
+            c->Change = [this, n] { eventi.push_back(n + ".Change"); };
+            c->Click = [this, n] { eventi.push_back(n + ".Click"); };
+        }
+        p.S.Show();
+        Lega(p.S, &radice);
+        AggiornaViste();
+        radice.show();
+        radice.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&radice));
+        eventi.clear();
+    }
+    void TearDown() override {
+        Slega(p.S);
+        ImpostaPiattaforma(nullptr);
+    }
+    // A click where an option or a check box takes it: on its box, at the left.
+    void Spunta(const char* nome) {
+        auto* w = Widget<QAbstractButton>(nome);
+        QTest::mouseClick(w, Qt::LeftButton, {}, QPoint(6, w->height() / 2));
+    }
+    // The model changed by the program's code: the widgets follow at the end of the event.
+    void DalModello(const std::function<void()>& f) {
+        f();
+        AggiornaViste();
+    }
+};
+
+TEST_F(Legatore, IlTestoBattutoArrivaAlModello) {
+    struct Caso {
+        const char* nome;
+        Controllo Prova::*campo;
+        const char* widget;
+        int maxLength;
+        const char* battuto;
+        std::string atteso;
+    };
+    const Caso casi[] = {
+        {"campo libero", &Prova::Nome, "Nome", 0, "Rossi", "Rossi"},
+        {"campo pieno a 3", &Prova::Nome, "Nome", 3, "Rossi", "Ros"},
+        {"data: le cifre riempiono la maschera", &Prova::DataOper, "DataOper", 0, "1503",
+         "15/03/____"},
+        {"data intera", &Prova::DataOper, "DataOper", 0, "01022003", "01/02/2003"},
+    };
+    for (const auto& caso : casi) {
+        SCOPED_TRACE(caso.nome);
+        Controllo& c = p.*caso.campo;
+        DalModello([&] {
+            c.SetText("");
+            c.MaxLength = caso.maxLength;
+        });
+        auto* campo = Widget<QLineEdit>(caso.widget);
+        campo->setFocus();
+        campo->home(false);
+        QTest::keyClicks(campo, caso.battuto);
+        EXPECT_EQ(c.Text(), caso.atteso);
+        EXPECT_EQ(campo->displayText().toStdString(), caso.atteso);
+    }
+}
+
+TEST_F(Legatore, IlTestoDelModelloArrivaAlWidget) {
+    DalModello([&] {
+        p.Nome.SetText("Banca Sella");
+        p.DataOper.SetText("07/11/1999");
+        p.Saldi(1).SetText("1.234,56");
+    });
+    EXPECT_EQ(Widget<QLineEdit>("Nome")->text(), "Banca Sella");
+    EXPECT_EQ(Widget<QLineEdit>("DataOper")->displayText(), "07/11/1999");
+    EXPECT_EQ(Widget<QLabel>("Saldi_1")->text(), "1.234,56");
+    DalModello([&] { p.DataOper.SetText(""); });
+    EXPECT_EQ(Widget<QLineEdit>("DataOper")->displayText(), "__/__/____");
+}
+
+TEST_F(Legatore, LeScrittureDelLegatoreNonTornanoComeEventi) {
+    p.OK.Click = [this] {
+        eventi.push_back("OK.Click");
+        p.Nome.SetText("scritto dal programma");
+        p.Valuta.AddItem("Euro - Unione Europea");
+        p.Valuta.SetListIndex(0);
+        p.Elenco.AddItem("riga");
+        p.Elenco.SetListIndex(0);
+        p.Due.SetValue(true);
+    };
+    QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
+    // Each change once, from the model itself; none again from the widgets written after.
+    EXPECT_EQ(eventi, (std::vector<std::string>{"OK.Click", "Nome.Change", "Valuta.Click",
+                                                "Elenco.Click"}));
+    EXPECT_EQ(Widget<QLineEdit>("Nome")->text(), "scritto dal programma");
+    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentText(), "Euro - Unione Europea");
+    EXPECT_TRUE(Widget<QRadioButton>("Due")->isChecked());
+}
+
+TEST_F(Legatore, IlFiltroDeiTastiScartaOCambiaIlTasto) {
+    std::vector<int> premuti, rilasciati;
+    p.Nome.KeyPress = [&](int& k) {
+        premuti.push_back(k);
+        if (k == 'x')
+            k = 0;
+        else if (k >= 'a' && k <= 'z')
+            k -= 32;
+    };
+    p.Nome.KeyUp = [&](int k) { rilasciati.push_back(k); };
+    auto* campo = Widget<QLineEdit>("Nome");
+    campo->setFocus();
+    QTest::keyClicks(campo, "axb");
+    QTest::keyClick(campo, Qt::Key_Return);
+    EXPECT_EQ(p.Nome.Text(), "AB");
+    EXPECT_EQ(campo->text(), "AB");
+    EXPECT_EQ(premuti, (std::vector<int>{'a', 'x', 'b', TastoInvio}));
+    EXPECT_EQ(rilasciati, (std::vector<int>{'A', 'X', 'B', TastoInvio}));
+}
+
+TEST_F(Legatore, TabSegueLOrdineDelModello) {
+    p.Nome.SetFocus();
+    AggiornaViste();
+    ASSERT_TRUE(Widget<QLineEdit>("Nome")->hasFocus());
+    DalModello([&] { p.DataOper.Enabled = false; });
+    QTest::keyClick(Widget<QLineEdit>("Nome"), Qt::Key_Tab);
+    EXPECT_EQ(p.S.Fuoco(), &p.Elenco);
+    EXPECT_TRUE(Widget<QListView>("Elenco")->hasFocus());
+}
+
+TEST_F(Legatore, IlClicDaIlFuocoAlModello) {
+    std::vector<std::string> fuoco;
+    p.Nome.LostFocus = [&] { fuoco.push_back("Nome.LostFocus"); };
+    p.Spunta.GotFocus = [&] { fuoco.push_back("Spunta.GotFocus"); };
+    p.Nome.SetFocus();
+    AggiornaViste();
+    Spunta("Spunta");
+    EXPECT_EQ(fuoco, (std::vector<std::string>{"Nome.LostFocus", "Spunta.GotFocus"}));
+    EXPECT_TRUE(p.Spunta.Value());
+    // The model moves the focus: the widget follows.
+    DalModello([&] { p.Nome.SetFocus(); });
+    EXPECT_TRUE(Widget<QLineEdit>("Nome")->hasFocus());
+}
+
+TEST_F(Legatore, UnaListaDiTrentamilaRighe) {
+    DalModello([&] {
+        for (int i = 0; i < 30000; ++i)
+            p.Elenco.AddItem("riga " + std::to_string(i));
+    });
+    auto* lista = Widget<QListView>("Elenco");
+    ASSERT_EQ(lista->model()->rowCount(), 30000);
+    EXPECT_EQ(lista->font().family(), "Courier New");
+
+    QModelIndex terza = lista->model()->index(2, 0);
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualRect(terza).center());
+    EXPECT_EQ(p.Elenco.ListIndex(), 2);
+    EXPECT_EQ(eventi, std::vector<std::string>{"Elenco.Click"});
+
+    int doppi = 0;
+    p.Elenco.DblClick = [&] { ++doppi; };
+    QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, lista->visualRect(terza).center());
+    EXPECT_EQ(doppi, 1);
+
+    DalModello([&] { p.Elenco.SetListIndex(29999); });
+    EXPECT_EQ(lista->currentIndex().row(), 29999);
+    DalModello([&] { p.Elenco.RemoveItem(0); });
+    EXPECT_EQ(lista->model()->rowCount(), 29999);
+    EXPECT_EQ(lista->currentIndex().row(), 29998);
+    EXPECT_EQ(lista->model()->index(0, 0).data().toString(), "riga 1");
+    DalModello([&] { p.Elenco.Clear(); });
+    EXPECT_EQ(lista->model()->rowCount(), 0);
+}
+
+TEST_F(Legatore, LaSceltaNellaComboArrivaAlModello) {
+    DalModello([&] {
+        p.Valuta.AddItem("Euro - Unione Europea");
+        p.Valuta.AddItem("Lira - Italia");
+        p.Valuta.SetListIndex(0);
+    });
+    eventi.clear();
+    auto* combo = Widget<QComboBox>("Valuta");
+    ASSERT_EQ(combo->count(), 2);
+    combo->setFocus();
+    QTest::keyClick(combo, Qt::Key_Down);
+    EXPECT_EQ(p.Valuta.ListIndex(), 1);
+    EXPECT_EQ(p.Valuta.Text(), "Lira - Italia");
+    // A choice from the lines is a click, not a change of text.
+    EXPECT_EQ(eventi, std::vector<std::string>{"Valuta.Click"});
+}
+
+TEST_F(Legatore, OpzioniECaselle) {
+    Spunta("Due");
+    EXPECT_TRUE(p.Due.Value());
+    Spunta("Uno");
+    EXPECT_TRUE(p.Uno.Value());
+    EXPECT_FALSE(p.Due.Value());
+    EXPECT_FALSE(Widget<QRadioButton>("Due")->isChecked());
+    // A click on the option that is on leaves it on.
+    Spunta("Uno");
+    EXPECT_TRUE(Widget<QRadioButton>("Uno")->isChecked());
+
+    Spunta("Spunta");
+    EXPECT_TRUE(p.Spunta.Value());
+    DalModello([&] { p.Spunta.SetValue(false); });
+    EXPECT_FALSE(Widget<QCheckBox>("Spunta")->isChecked());
+}
+
+TEST_F(Legatore, AbilitatoVisibileESuggerimento) {
+    struct Caso {
+        const char* widget;
+        Controllo* c;
+    };
+    for (const Caso& caso : {Caso{"Nome", &p.Nome}, Caso{"OK", &p.OK},
+                             Caso{"Saldi_1", &p.Saldi(1)}, Caso{"Elenco", &p.Elenco}}) {
+        SCOPED_TRACE(caso.widget);
+        auto* w = Widget<QWidget>(caso.widget);
+        DalModello([&] {
+            caso.c->Enabled = false;
+            caso.c->Visible = false;
+            caso.c->ToolTipText = "Saldo per data valuta";
+        });
+        EXPECT_FALSE(w->isEnabled());
+        EXPECT_FALSE(w->isVisible());
+        EXPECT_EQ(w->toolTip(), "Saldo per data valuta");
+        DalModello([&] {
+            caso.c->Enabled = true;
+            caso.c->Visible = true;
+        });
+        EXPECT_TRUE(w->isEnabled());
+        EXPECT_TRUE(w->isVisible());
+    }
+    // A disabled button reports no click.
+    DalModello([&] { p.OK.Enabled = false; });
+    QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
+    EXPECT_TRUE(eventi.empty());
+}
+
+TEST_F(Legatore, MenuEVoci) {
+    auto* voce = Widget<QAction>("Voce");
+    auto* menu = Widget<QMenu>("Menu");
+    EXPECT_EQ(voce->text(), "&Voce");
+    EXPECT_EQ(menu->title(), "&Menu");
+    EXPECT_TRUE(Widget<QAction>("Linea")->isSeparator());
+
+    int voci = 0, menus = 0;
+    p.Voce.Click = [&] { ++voci; };
+    p.Menu.Click = [&] {
+        ++menus;
+        p.Voce.Enabled = false;
+    };
+    voce->trigger();
+    EXPECT_EQ(voci, 1);
+    // The menu's handler runs as it opens and may change its entries before they show.
+    emit menu->aboutToShow();
+    EXPECT_EQ(menus, 1);
+    EXPECT_FALSE(voce->isEnabled());
+    DalModello([&] {
+        p.Menu.Visible = false;
+        p.Voce.SetText("&Altra voce");
+    });
+    EXPECT_FALSE(menu->menuAction()->isVisible());
+    EXPECT_EQ(voce->text(), "&Altra voce");
+}
+
+TEST_F(Legatore, LImmagineMostraIlFileDelTesto) {
+    QTemporaryDir cartella;
+    QString file = cartella.filePath("15.png");
+    QImage bandiera(16, 11, QImage::Format_RGB32);
+    bandiera.fill(Qt::blue);
+    ASSERT_TRUE(bandiera.save(file));
+    DalModello([&] { p.Bandiera.SetText(file.toStdString()); });
+    EXPECT_EQ(Widget<QLabel>("Bandiera")->pixmap().size(), QSize(16, 11));
+    DalModello([&] { p.Bandiera.SetText(""); });
+    EXPECT_TRUE(Widget<QLabel>("Bandiera")->pixmap().isNull());
+}
+
+TEST_F(Legatore, UnGuastoNelGestoreVaAllaPiattaformaEIlProgrammaProsegue) {
+    p.OK.Click = [] { Errore(9); };
+    QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
+    p.OK.Click = [this] { eventi.push_back("dopo"); };
+    QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
+    EXPECT_EQ(porta.messaggi,
+              std::vector<std::string>{"FAILURE 9 Indice non compreso nell'intervallo"});
+    EXPECT_EQ(eventi, std::vector<std::string>{"dopo"});
+}
+
+} // namespace
