@@ -1,0 +1,36 @@
+#pragma once
+// Every screen of the program, made once when the program starts. Screens reach each other
+// through App(), as the design's screens call each other by name (App().Form9.DataOper).
+#include "ledger/Form9.h"
+#include "refdata/Convertore.h"
+#include "refdata/FORM12.h"
+#include "refdata/Form10.h"
+#include "refdata/Form2.h"
+#include "refdata/Form25.h"
+#include "refdata/Form6.h"
+#include "refdata/Form7.h"
+#include "refdata/ManutCaus.h"
+#include "shell/Form1.h"
+#include "shell/MDIForm1.h"
+
+struct Applicazione {
+    ::MDIForm1 MDIForm1;
+    ::Form1 Form1;
+    ::Form9 Form9;
+    ::Form2 Form2;
+    ::Form7 Form7;
+    ::Form10 Form10;
+    ::Form6 Form6;
+    ::FORM12 FORM12;
+    ::ManutCaus ManutCaus;
+    ::Form25 Form25;
+    ::Convertore Convertore;
+
+    Applicazione();
+    ~Applicazione();
+    Applicazione(const Applicazione&) = delete;
+    Applicazione& operator=(const Applicazione&) = delete;
+};
+
+// The application made last (there is one at a time).
+Applicazione& App();
