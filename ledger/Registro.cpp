@@ -1,0 +1,309 @@
+#include "ledger/Registro.h"
+
+#include "cheques/ElenchiAssegni.h"
+#include "shell/Applicazione.h"
+#include "store/Date.h"
+#include "store/FileRecord.h"
+#include "store/Formato.h"
+#include "store/Stato.h"
+#include "store/Testo.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+// The date number as a whole number, as most comparisons of the register take it.
+int NumeroIntero(const std::string& data) { return Intero32(NumeroData(data)); }
+
+// The description of the movement's causale as the list shows it: its first 20 characters, or
+// nothing when no causale has that code.
+std::string DescrizioneInElenco(const Fisso<5>& codice) {
+    for (long j = 1; j <= Stato.NumCausali; ++j) {
+        const RecCausale& causale = Stato.Causali[j];
+        if (causale.CodCausale == codice) return Left(causale.DescCausale, 20);
+    }
+    return "";
+}
+
+// One movement's effect on the four balances; `quota` carries the sign.
+void Muovi(double quota, const std::string& sospeso, bool contaOperazione, bool contaValuta) {
+    Stato.SaldoUltimaData += quota;
+    if (sospeso == "N") Stato.SaldoAllineamento += quota;
+    if (contaOperazione) Stato.SaldoOperazione += quota;
+    if (contaValuta) Stato.SaldoValuta += quota;
+}
+
+void ScriviTotali() {
+    ConRecord(NomeFileConto(".TOT"), RecTotali::Lunghezza, 1,
+              [] { ScriviRecord(Stato.Totali, 1, 1); });
+}
+
+// The working balances and dates into the buffer of .TOT, then the file.
+void SalvaTotali() {
+    RecTotali& t = Stato.Totali;
+    t.SaldoAllineamento = Stato.SaldoAllineamento;
+    t.SaldoValuta = Stato.SaldoValuta;
+    t.SaldoOperazione = Stato.SaldoOperazione;
+    t.SaldoUltimaData = Stato.SaldoUltimaData;
+    t.PrimaDataOperazione = Stato.PrimaDataOperazione;
+    t.UltimaDataOperazione = Stato.UltimaDataOperazione;
+    t.PrimaDataValuta = Stato.PrimaDataValuta;
+    t.UltimaDataValuta = Stato.UltimaDataValuta;
+    ScriviTotali();
+}
+
+// The movements whose `data` falls, by the calendar, between the two selection dates, as lines
+// keyed by that date, into `lista`. A date the calendar can't read stops the refill with the
+// lines found before it already in the list.
+void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
+            bool marcaAnnullato) {
+    auto& f = App().Form9;
+    std::string inizio = LTrim(f.DataInizSel.Text());
+    std::string fine = LTrim(f.DataFineSel.Text());
+    lista.Clear();
+    std::vector<std::string> righe;
+    righe.reserve(static_cast<std::size_t>(std::max<short>(Stato.NumMovimenti, 0)));
+    auto consegna = [&] {
+        if (righe.empty()) return;
+        lista.AggiungiRighe(std::move(righe));
+        lista.Visible = true;
+        altra.Visible = false;
+    };
+    try {
+        long da = 0, a = 0;
+        for (long i = 1; i <= Stato.NumMovimenti; ++i) {
+            const RecMovimento& m = Stato.Movimenti[i];
+            long giorno = GiornoCalendario(m.*data);
+            if (i == 1) {
+                da = GiornoCalendario(inizio);
+                a = GiornoCalendario(fine);
+            }
+            if (giorno >= da && giorno <= a)
+                righe.push_back(RigaElenco(m, m.*data, marcaAnnullato && m.Annullato == "S"));
+        }
+    } catch (...) {
+        consegna();
+        throw;
+    }
+    consegna();
+}
+} // namespace
+
+std::string RigaElenco(const RecMovimento& m, const std::string& dataChiave,
+                       bool marcaAnnullato) {
+    std::string riga = Str(NumeroIntero(dataChiave));
+    riga.reserve(120);
+    riga += "  ";
+    riga += m.DataOper.Testo();
+    riga += ' ';
+    riga += m.DataValuta.Testo();
+    riga += ' ';
+    riga += Format(m.NrOper, "0000");
+    riga += ' ';
+    riga += DescrizioneInElenco(m.Causale);
+    riga += "  ";
+    riga += m.Sospeso.Testo();
+    riga += "   ";
+    riga += m.D_A.Testo();
+    riga += "  ";
+    riga += AllineaDestra(Trim(m.NrDoc), 8);
+    riga += ' ';
+    riga += AllineaDestra(Format(m.IMPORTO * Stato.Cambio, Stato.FormatoImporti), 15);
+    if (marcaAnnullato) riga += " *";
+    if (m.Sospeso == "N") riga += " *";
+    return riga;
+}
+
+int NumeroDaRiga(const std::string& riga) {
+    // A line of the register is plain ASCII up to its number, four digits: read them straight,
+    // as ScriviOrd does for every line at each new movement.
+    constexpr std::size_t Inizio = 31, Cifre = 4;
+    bool semplice = riga.size() >= Inizio + Cifre;
+    for (std::size_t i = 0; semplice && i < Inizio; ++i)
+        semplice = static_cast<unsigned char>(riga[i]) < 0x80;
+    for (std::size_t i = Inizio; semplice && i < Inizio + Cifre; ++i)
+        semplice = riga[i] >= '0' && riga[i] <= '9';
+    if (!semplice) return static_cast<int>(Val(Mid(riga, 32, 4)));
+    int numero = 0;
+    for (std::size_t i = Inizio; i < Inizio + Cifre; ++i) numero = numero * 10 + (riga[i] - '0');
+    return numero;
+}
+
+void ScriviOrd() {
+    const auto& righe = App().Form9.ElencoMovim.Righe();
+    // One step past the last line: the empty text there gives the blank Movimenti[0].
+    std::vector<long> numeri;
+    numeri.reserve(righe.size() + 1);
+    for (const std::string& riga : righe) numeri.push_back(NumeroDaRiga(riga));
+    numeri.push_back(0);
+    // A number beyond the table fails where the walk meets it, with the records before it
+    // written.
+    std::size_t validi = 0;
+    while (validi < numeri.size() && numeri[validi] >= 0 &&
+           numeri[validi] <= Stato.Movimenti.Limite())
+        ++validi;
+    ConRecord(NomeFileConto(".Ord"), RecMovimento::Lunghezza, 1, [&] {
+        ScriviRecords([&](std::size_t k) -> const RecMovimento& {
+            return Stato.Movimenti[numeri[k]];
+        }, validi, 1, 1);
+        if (validi < numeri.size()) Errore(9);
+    });
+}
+
+void ApplicaMovimento(const std::string& dataValuta, const std::string& dataOper, double importo,
+                      const std::string& dA, const std::string& sospeso) {
+    float oggi = NumeroData(Oggi());
+    Muovi(dA == "U" ? -importo : importo, sospeso, NumeroData(dataOper) <= oggi,
+          NumeroData(dataValuta) <= oggi);
+    RidisegnaSaldi();
+    SalvaTotali();
+}
+
+void StornaMovimento(const std::string& dataValuta, const std::string& dataOper, double importo,
+                     const std::string& dA, const std::string& sospeso) {
+    int oggi = NumeroIntero(Oggi());
+    Muovi(dA == "U" ? importo : -importo, sospeso, NumeroIntero(dataOper) <= oggi,
+          NumeroIntero(dataValuta) <= oggi);
+    SalvaTotali();
+}
+
+void RicalcolaTotali() {
+    // The files win over the table.
+    Stato.NumMovimenti = LeggiContatore(NomeFileConto(".MOR"));
+    ConRecord(NomeFileConto(".MOV"), RecMovimento::Lunghezza, 1,
+              [] { LeggiRecords(Stato.Movimenti.righe, 1, Stato.NumMovimenti, 1); });
+    RicalcolaDaMovimenti();
+}
+
+void RicalcolaDaMovimenti() {
+    int oggi = NumeroIntero(Oggi());
+    Stato.SaldoAllineamento = Stato.SaldoValuta = Stato.SaldoOperazione = 0;
+    Stato.SaldoUltimaData = 0;
+    for (long i = 1; i <= Stato.NumMovimenti; ++i) {
+        const RecMovimento& m = Stato.Movimenti[i];
+        Muovi(m.D_A == "U" ? -m.IMPORTO : m.IMPORTO, m.Sospeso,
+              NumeroIntero(m.DataOper) <= oggi, NumeroIntero(m.DataValuta) <= oggi);
+    }
+    // Already signed: it adds whatever its sign.
+    double riporto = Stato.Riporto[1].ImportoRiporto;
+    Stato.SaldoOperazione += riporto;
+    Stato.SaldoValuta += riporto;
+    Stato.SaldoUltimaData += riporto;
+    Stato.SaldoAllineamento += riporto;
+    if (Stato.FlagOperazione == 0) RidisegnaSaldi();
+    // Only the balances: the dates of the buffer go out as they stand.
+    RecTotali& t = Stato.Totali;
+    t.SaldoAllineamento = Stato.SaldoAllineamento;
+    t.SaldoValuta = Stato.SaldoValuta;
+    t.SaldoOperazione = Stato.SaldoOperazione;
+    t.SaldoUltimaData = Stato.SaldoUltimaData;
+    ScriviTotali();
+}
+
+void AggiungiMovimento() {
+    auto& f = App().Form9;
+    const RecMovimento& m = Stato.Movimenti[Stato.NumMovimenti];
+    ConRecord(NomeFileConto(".MOV"), RecMovimento::Lunghezza, 1,
+              [&] { ScriviRecord(m, Stato.NumMovimenti, 1); });
+    ScriviContatore(NomeFileConto(".MOR"), Stato.NumMovimenti);
+
+    // Only the list on view gets the line; the other one has it at its next refill.
+    bool perOperazione = f.Command2.Enabled;
+    const Fisso<10>& data = perOperazione ? m.DataOper : m.DataValuta;
+    if (NumeroData(f.DataInizSel.Text()) > NumeroData(data)) f.DataInizSel.SetText(data);
+    if (NumeroData(f.DataFineSel.Text()) < NumeroData(data)) f.DataFineSel.SetText(data);
+    Controllo& lista = perOperazione ? f.ElencoMovim : f.elencoValuta;
+    lista.AddItem(RigaElenco(m, data));
+    lista.Visible = true;
+    (perOperazione ? f.elencoValuta : f.ElencoMovim).Visible = false;
+    f.Label25.SetText(perOperazione ? "Elenco Movimenti per data operazione"
+                                    : "Elenco Movimenti per data Valuta");
+
+    ScriviOrd();
+    ApplicaMovimento(m.DataValuta, m.DataOper, m.IMPORTO, m.D_A, m.Sospeso);
+    ElencaSituazione();
+}
+
+void EstremiOperazione() {
+    if (Stato.NumMovimenti < 1) return;
+    auto& M = Stato.Movimenti;
+    Stato.PrimaDataOperazione = M[1].DataOper;
+    Stato.UltimaDataOperazione = M[1].DataOper;
+    int prima = NumeroIntero(M[1].DataOper);
+    int ultima = prima;
+    for (long i = 1; i <= Stato.NumMovimenti; ++i) {
+        int numero = NumeroIntero(M[i].DataOper);
+        if (prima > numero) {
+            prima = numero;
+            Stato.PrimaDataOperazione = M[i].DataOper;
+        }
+        if (ultima < numero) {
+            ultima = numero;
+            Stato.UltimaDataOperazione = M[i].DataOper;
+        }
+    }
+    auto& f = App().Form9;
+    f.DataInizSel.SetText(Stato.PrimaDataOperazione);
+    f.DataFineSel.SetText(Stato.UltimaDataOperazione);
+    App().MDIForm1.UltimaData.SetText(Stato.UltimaDataOperazione);
+}
+
+void EstremiValuta() {
+    // Nothing to go by without movements, nor when the first one has no value date.
+    if (Stato.NumMovimenti < 1) return;
+    auto& M = Stato.Movimenti;
+    int prima = NumeroIntero(M[1].DataValuta);
+    if (prima == 0) return;
+    Stato.PrimaDataValuta = M[1].DataValuta;
+    Stato.UltimaDataValuta = M[1].DataValuta;
+    int ultima = prima;
+    for (long i = 1; i <= Stato.NumMovimenti; ++i) {
+        int numero = NumeroIntero(M[i].DataValuta);
+        if (prima > numero) {
+            prima = numero;
+            Stato.PrimaDataValuta = M[i].DataValuta;
+        }
+        if (ultima < numero) {
+            ultima = numero;
+            Stato.UltimaDataValuta = M[i].DataValuta;
+        }
+    }
+    auto& f = App().Form9;
+    f.DataInizSel.SetText(Stato.PrimaDataValuta);
+    f.DataFineSel.SetText(Stato.UltimaDataValuta);
+}
+
+void AllargaEstremi() {
+    // Only the last date widens: the first date's half never runs in this design.
+    auto& f = App().Form9;
+    if (NumeroData(f.DataOper.Text()) > NumeroData(Stato.UltimaDataOperazione))
+        Stato.UltimaDataOperazione = f.DataOper.Text();
+    f.DataInizSel.SetText(Stato.PrimaDataOperazione);
+    f.DataFineSel.SetText(Stato.UltimaDataOperazione);
+}
+
+void ElencaPerOperazione() {
+    auto& f = App().Form9;
+    // While Ag applies a filter it is disabled, and the typed dates stay.
+    if (f.Ag.Enabled) EstremiOperazione();
+    Elenca(f.ElencoMovim, f.elencoValuta, &RecMovimento::DataOper, false);
+    f.Label25.SetText("Elenco Movimenti per data operazione");
+}
+
+void ElencaPerValuta() {
+    auto& f = App().Form9;
+    if (f.Ag.Enabled) EstremiValuta();
+    Elenca(f.elencoValuta, f.ElencoMovim, &RecMovimento::DataValuta, true);
+    f.Label25.SetText("Elenco Movimenti per data valuta");
+}
+
+void RidisegnaSaldi() {
+    auto& p = App().MDIForm1;
+    auto mostra = [](double saldo) { return Format(saldo * Stato.Cambio, Stato.FormatoImporti); };
+    p.Saldi(0).SetText(mostra(Stato.SaldoAllineamento));
+    p.Saldi(1).SetText(mostra(Stato.SaldoOperazione));
+    p.Saldi(3).SetText(mostra(Stato.SaldoValuta));
+    p.Saldi(4).SetText(mostra(Stato.SaldoUltimaData));
+    p.UltimaData.SetText(Stato.UltimaDataOperazione);
+    p.Saldi(5).SetText(mostra(Stato.Conti[Stato.IndiceConto].Fido + Stato.SaldoOperazione));
+}

@@ -1,0 +1,207 @@
+#include "AmbienteRegistro.h"
+
+#include "ledger/CaricaConto.h"
+#include "ledger/Registro.h"
+
+// Today is 05/07/2001 throughout: date number 732366 + 181 + 5 = 732552.
+
+struct CasoRiga {
+    const char* nome;
+    RecMovimento movimento;
+    bool perValuta;
+    double cambio;
+    const char* formato;
+    std::string attesa;
+};
+
+class RigaElencoTest : public AmbienteRegistro, public ::testing::WithParamInterface<CasoRiga> {};
+
+TEST_P(RigaElencoTest, ColonneDellaRiga) {
+    const CasoRiga& c = GetParam();
+    Stato.Cambio = c.cambio;
+    Stato.FormatoImporti = c.formato;
+    const RecMovimento& m = c.movimento;
+    EXPECT_EQ(RigaElenco(m, c.perValuta ? m.DataValuta : m.DataOper,
+                         c.perValuta && m.Annullato == "S"),
+              c.attesa);
+}
+
+// 23/06/2001: 732366 + 159 + 23 = 732548; 25/06/2001: 732550. The description is cut to 20
+// characters, "Versamento contanti ", trailing blank included; the amount to 15 columns.
+INSTANTIATE_TEST_SUITE_P(
+    Registro, RigaElencoTest,
+    ::testing::Values(
+        CasoRiga{"sospeso", Mov(3, "23/06/2001", "25/06/2001", 1234.5, "E", "S", "VS", "12"),
+                 false, 1, "#,###,###,##0.00",
+                 " 732548  23/06/2001 25/06/2001 0003 Versamento contanti   S   E        12"
+                 "        1.234,50"},
+        CasoRiga{"allineato_marcato",
+                 Mov(3, "23/06/2001", "25/06/2001", 1234.5, "E", "N", "VS", "12"), false, 1,
+                 "#,###,###,##0.00",
+                 " 732548  23/06/2001 25/06/2001 0003 Versamento contanti   N   E        12"
+                 "        1.234,50 *"},
+        CasoRiga{"per_valuta_annullato_prima_di_allineato",
+                 Mov(3, "23/06/2001", "25/06/2001", 1234.5, "U", "N", "PR", "", "S"), true, 1,
+                 "#,###,###,##0.00",
+                 " 732550  23/06/2001 25/06/2001 0003 Prelievo              N   U          "
+                 "        1.234,50 * *"},
+        CasoRiga{"causale_sconosciuta_scorre_a_sinistra",
+                 Mov(3, "23/06/2001", "25/06/2001", 5, "E", "S", "ZZ", "A1"), false, 1,
+                 "#,###,###,##0.00",
+                 " 732548  23/06/2001 25/06/2001 0003   S   E        A1            5,00"},
+        CasoRiga{"lire_senza_decimali",
+                 Mov(7, "01/01/2001", "01/01/2001", 1000000 / 1936.27, "E", "S", "VS"), false,
+                 1936.27, "#,###,###,##0",
+                 " 732367  01/01/2001 01/01/2001 0007 Versamento contanti   S   E          "
+                 "       1.000.000"},
+        CasoRiga{"numero_di_cinque_cifre",
+                 Mov(10000, "01/01/2001", "01/01/2001", 1, "E", "S", "VS"), false, 1,
+                 "#,###,###,##0.00",
+                 " 732367  01/01/2001 01/01/2001 10000 Versamento contanti   S   E          "
+                 "            1,00"}),
+    [](const auto& info) { return std::string(info.param.nome); });
+
+TEST(NumeroDaRigaTest, ColonneDa32a35) {
+    EXPECT_EQ(NumeroDaRiga(" 732548  23/06/2001 25/06/2001 0003 Prelievo"), 3);
+    // From 10000 on only the first four digits are read.
+    EXPECT_EQ(NumeroDaRiga(" 732367  01/01/2001 01/01/2001 10000 Versamento"), 1000);
+    EXPECT_EQ(NumeroDaRiga(""), 0);
+}
+
+// One movement and what it does to the four balances (aligned, by operation date, by value
+// date, all), starting from zero.
+struct CasoSaldi {
+    const char* nome;
+    RecMovimento movimento;
+    double allineamento, operazione, valuta, ultimaData;
+};
+
+class SaldiTest : public AmbienteRegistro, public ::testing::WithParamInterface<CasoSaldi> {};
+
+const CasoSaldi casiSaldi[] = {
+    {"oggi_entrata_sospesa", Mov(1, "05/07/2001", "05/07/2001", 100, "E", "S"), 0, 100, 100, 100},
+    {"oggi_entrata_allineata", Mov(1, "05/07/2001", "05/07/2001", 100, "E", "N"), 100, 100, 100,
+     100},
+    {"domani_solo_ultima_data_e_allineamento", Mov(1, "06/07/2001", "06/07/2001", 100, "E", "N"),
+     100, 0, 0, 100},
+    {"uscita_sospesa_di_oggi", Mov(1, "05/07/2001", "05/07/2001", 50, "U", "S"), 0, -50, -50, -50},
+    {"D_A_vuoto_somma", Mov(1, "05/07/2001", "05/07/2001", 7, " ", "N"), 7, 7, 7, 7},
+    {"valuta_futura", Mov(1, "04/07/2001", "10/07/2001", 20, "E", "S"), 0, 20, 0, 20},
+    // 30/06/2001 numbers 732555, above today's 732552: it counts as post-dated.
+    {"fine_giugno_dopo_inizio_luglio", Mov(1, "30/06/2001", "01/07/2001", 30, "E", "S"), 0, 0, 30,
+     30},
+    {"importo_negativo_inverte_D_A", Mov(1, "05/07/2001", "05/07/2001", -10, "U", "N"), 10, 10, 10,
+     10},
+    {"sospeso_minuscolo_non_e_allineato", Mov(1, "05/07/2001", "05/07/2001", 5, "E", "n"), 0, 5, 5,
+     5},
+};
+
+TEST_P(SaldiTest, RicaricaDaiFileConIlRiporto) {
+    const CasoSaldi& c = GetParam();
+    ScriviMovimenti({c.movimento});
+    ScriviRiporto(-250.5);
+    CaricaConto();
+    EXPECT_EQ(Stato.SaldoAllineamento, -250.5 + c.allineamento);
+    EXPECT_EQ(Stato.SaldoOperazione, -250.5 + c.operazione);
+    EXPECT_EQ(Stato.SaldoValuta, -250.5 + c.valuta);
+    EXPECT_EQ(Stato.SaldoUltimaData, -250.5 + c.ultimaData);
+    RecTotali t = LeggiTotali();
+    EXPECT_EQ(t.SaldoAllineamento, -250.5 + c.allineamento);
+    EXPECT_EQ(t.SaldoUltimaData, -250.5 + c.ultimaData);
+}
+
+TEST_P(SaldiTest, ApplicaEStorna) {
+    const RecMovimento& m = GetParam().movimento;
+    const CasoSaldi& c = GetParam();
+    ApplicaMovimento(m.DataValuta, m.DataOper, m.IMPORTO, m.D_A, m.Sospeso);
+    EXPECT_EQ(Stato.SaldoAllineamento, c.allineamento);
+    EXPECT_EQ(Stato.SaldoOperazione, c.operazione);
+    EXPECT_EQ(Stato.SaldoValuta, c.valuta);
+    EXPECT_EQ(Stato.SaldoUltimaData, c.ultimaData);
+    EXPECT_EQ(LeggiTotali().SaldoOperazione, c.operazione);
+
+    StornaMovimento(m.DataValuta, m.DataOper, m.IMPORTO, m.D_A, m.Sospeso);
+    EXPECT_EQ(Stato.SaldoAllineamento, 0);
+    EXPECT_EQ(Stato.SaldoOperazione, 0);
+    EXPECT_EQ(Stato.SaldoValuta, 0);
+    EXPECT_EQ(Stato.SaldoUltimaData, 0);
+    EXPECT_EQ(LeggiTotali().SaldoUltimaData, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Registro, SaldiTest, ::testing::ValuesIn(casiSaldi),
+                         [](const auto& info) { return std::string(info.param.nome); });
+
+using RegistroTest = AmbienteRegistro;
+
+TEST_F(RegistroTest, TotSbagliatoRiparatoAlCaricamentoConLeSueDate) {
+    ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N"),
+                     Mov(2, "02/07/2001", "09/07/2001", 40, "U", "S")});
+    RecTotali sbagliato;
+    sbagliato.SaldoAllineamento = sbagliato.SaldoValuta = 999;
+    sbagliato.SaldoOperazione = sbagliato.SaldoUltimaData = -999;
+    sbagliato.PrimaDataOperazione = "01/01/1999";
+    sbagliato.UltimaDataOperazione = "02/02/1999";
+    sbagliato.PrimaDataValuta = "03/03/1999";
+    sbagliato.UltimaDataValuta = "04/04/1999";
+    ApriRecord(File(".TOT"), RecTotali::Lunghezza, 1);
+    ScriviRecord(sbagliato, 1, 1);
+    ChiudiRecord(1);
+
+    CaricaConto();
+
+    RecTotali t = LeggiTotali();
+    EXPECT_EQ(t.SaldoAllineamento, 100);
+    EXPECT_EQ(t.SaldoOperazione, 60);
+    EXPECT_EQ(t.SaldoValuta, 100);
+    EXPECT_EQ(t.SaldoUltimaData, 60);
+    // The rebuild writes the balances only.
+    EXPECT_EQ(t.PrimaDataOperazione, "01/01/1999");
+    EXPECT_EQ(t.UltimaDataOperazione, "02/02/1999");
+    EXPECT_EQ(t.PrimaDataValuta, "03/03/1999");
+    EXPECT_EQ(t.UltimaDataValuta, "04/04/1999");
+}
+
+TEST_F(RegistroTest, PannelloNellaValutaInUsoConIlFido) {
+    Stato.Cambio = 1936.27;
+    Stato.FormatoImporti = "#,###,###,##0";
+    Stato.Conti[1].Fido = 1000;
+    ScriviMovimenti({Mov(1, "05/07/2001", "05/07/2001", 1000000 / 1936.27, "E", "N"),
+                     Mov(2, "06/07/2001", "06/07/2001", 2000000 / 1936.27, "E", "S")});
+    CaricaConto();
+    auto& p = app->MDIForm1;
+    EXPECT_EQ(p.Saldi(0).Text(), "1.000.000");
+    EXPECT_EQ(p.Saldi(1).Text(), "1.000.000");
+    EXPECT_EQ(p.Saldi(3).Text(), "1.000.000");
+    EXPECT_EQ(p.Saldi(4).Text(), "3.000.000");
+    // The availability: (1000 + 516.4568...) * 1936.27 = 1936270 + 1000000.
+    EXPECT_EQ(p.Saldi(5).Text(), "2.936.270");
+    EXPECT_EQ(p.UltimaData.Text(), "05/07/2001");
+}
+
+TEST_F(RegistroTest, ConFlagOperazioneIlRicalcoloNonRidisegna) {
+    ScriviMovimenti({Mov(1, "05/07/2001", "05/07/2001", 100, "E", "N")});
+    Stato.FlagOperazione = 1;
+    CaricaConto();
+    EXPECT_EQ(app->MDIForm1.Saldi(0).Text(), "");
+    EXPECT_EQ(LeggiTotali().SaldoAllineamento, 100);
+}
+
+TEST_F(RegistroTest, ContatoreCortoIgnoraIlSurplusCheVieneSovrascritto) {
+    ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 10, "E", "N"),
+                     Mov(2, "02/07/2001", "02/07/2001", 20, "E", "N"),
+                     Mov(3, "03/07/2001", "03/07/2001", 500, "E", "N")},
+                    2);
+    app->Form9.S.Show();
+    EXPECT_EQ(Stato.NumMovimenti, 2);
+    EXPECT_EQ(Stato.SaldoUltimaData, 30);
+    EXPECT_EQ(NumeriInLista(app->Form9.ElencoMovim), (std::vector<int>{1, 2}));
+
+    Stato.NumMovimenti = 3;
+    Stato.Movimenti[3] = Mov(3, "04/07/2001", "04/07/2001", 1, "U", "S");
+    AggiungiMovimento();
+    auto mov = Leggi(".MOV");
+    ASSERT_EQ(mov.size(), 3u);
+    EXPECT_EQ(mov[2].DataOper, "04/07/2001");
+    EXPECT_EQ(mov[2].IMPORTO, 1);
+    EXPECT_EQ(Stato.SaldoUltimaData, 29);
+}

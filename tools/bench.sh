@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# The register under load: one account of 32767 movements.
+#   (a) a whole marendola-script process: start, opening of that account as the start account,
+#       print of the balances; mean of 20 runs (target below 25 ms);
+#   (b) one new movement in-process, with the whole rewrite of .Ord; mean of 50 (below 5 ms).
+# Usage: tools/bench.sh BUILD_DIR
+set -euo pipefail
+
+build=$(cd "${1:?usage: tools/bench.sh BUILD_DIR}" && pwd)
+driver=$build/tools/marendola-script
+bench=$build/tools/bench_registro
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+
+# A first start makes the program directory; then the accounts are written straight to disk.
+printf 'program prog\nstart\n' > primo.script
+"$driver" primo.script > /dev/null
+"$bench" prepara "$work/prog"
+
+cat > apri.script <<'SCRIPT'
+program prog
+start
+print MDIForm1.Codice
+print MDIForm1.Saldi(0)
+print MDIForm1.Saldi(1)
+print MDIForm1.Saldi(3)
+print MDIForm1.Saldi(4)
+print MDIForm1.Saldi(5)
+print Form9.NrOper
+SCRIPT
+
+echo "Conto di 32767 movimenti, aperto all'avvio:"
+"$driver" apri.script | sed 's/^/  /'
+
+runs=20
+total=0
+for ((i = 0; i < runs; i++)); do
+    start=$(date +%s%N)
+    "$driver" apri.script > /dev/null
+    end=$(date +%s%N)
+    total=$((total + end - start))
+done
+mean_us=$((total / runs / 1000))
+printf '(a) avvio + apertura + saldi, processo intero: %d.%03d ms (media di %d)\n' \
+    $((mean_us / 1000)) $((mean_us % 1000)) "$runs"
+
+printf '(b) un movimento nuovo con riscrittura di .Ord: %s ms (media di 50)\n' \
+    "$("$bench" aggiungi "$work/prog")"

@@ -1,0 +1,112 @@
+// The register under load, for tools/bench.sh.
+//
+//   bench_registro prepara DIR   writes into the program directory DIR (already started once)
+//                                account "1" with 32767 movements, the start account of
+//                                Imposta.DAT, and account "2" with 50 places left
+//   bench_registro aggiungi DIR  opens account "2" and times 50 new movements, each with the
+//                                whole rewrite of .Ord; prints the mean in milliseconds
+#include "ledger/Registro.h"
+#include "screen/PiattaformaSenzaSchermo.h"
+#include "shell/Applicazione.h"
+#include "store/Date.h"
+#include "store/FileRecord.h"
+#include "store/Stato.h"
+
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace {
+constexpr short Pieno = 32767;
+constexpr int Aggiunte = 50;
+
+// A movement of a plausible account: about four a day from 1990 on, entered roughly in date
+// order, value dates a few days after.
+RecMovimento Movimento(int nr) {
+    static const char* const causali[] = {"AS", "CA", "GC", "VS", "PR"};
+    long giorno = GiornoCalendario("01/01/1990") + nr / 4 - nr % 7;
+    RecMovimento m;
+    m.NrOper = static_cast<std::int16_t>(nr);
+    m.DataOper = TestoDaGiorno(giorno);
+    m.DataValuta = TestoDaGiorno(giorno + nr % 5);
+    m.Causale = causali[nr % 5];
+    m.IMPORTO = 10 + (nr * 7919 % 100000) / 100.0;
+    m.NrDoc = std::to_string(nr % 1000);
+    m.DescMovim = "movimento di prova " + std::to_string(nr);
+    m.Sospeso = nr % 3 == 0 ? "S" : "N";
+    m.D_A = nr % 2 == 0 ? "U" : "E";
+    m.Annullato = "N";
+    return m;
+}
+
+void ScriviConto(short numero, short movimenti) {
+    Stato.CodContoAperto = std::to_string(numero);
+    ConRecord(NomeFileConto(".MOV"), RecMovimento::Lunghezza, 1, [&] {
+        ScriviRecords([](std::size_t k) { return Movimento(static_cast<int>(k) + 1); },
+                      static_cast<std::size_t>(movimenti), 1, 1);
+    });
+    ScriviContatore(NomeFileConto(".MOR"), movimenti);
+
+    RecConto conto;
+    conto.Numero = numero;
+    conto.CodConto = std::to_string(numero);
+    conto.NomeBanca = "Banca di prova " + std::to_string(numero);
+    conto.Fido = 5000;
+    ConRecord(NomeFileDati("Conti.dat"), RecConto::Lunghezza, 1,
+              [&] { ScriviRecord(conto, numero, 1); });
+}
+
+void Prepara() {
+    Stato.PercorsoDati = Stato.PercorsoProgramma + "dati/";
+    ScriviConto(1, Pieno);
+    ScriviConto(2, Pieno - Aggiunte);
+    ScriviContatore(NomeFileDati("RecConti.dat"), 2);
+
+    RecImposta imposta;
+    ConRecord(NomeFileProgramma("Imposta.DAT"), RecImposta::Lunghezza, 1,
+              [&] { LeggiRecord(imposta, 1, 1); });
+    imposta.contAvv = "1";
+    imposta.decimali = 2;
+    ConRecord(NomeFileProgramma("Imposta.DAT"), RecImposta::Lunghezza, 1,
+              [&] { ScriviRecord(imposta, 1, 1); });
+}
+
+void Aggiungi() {
+    Applicazione app;
+    Stato.PercorsoDati = Stato.PercorsoProgramma + "dati/";
+    Stato.FormatoImporti = "#,###,###,##0.00";
+    Stato.NumConti = 2;
+    Stato.Conti[2].CodConto = "2";
+    Stato.IndiceConto = 2;
+    Stato.CodContoAperto = "2";
+    app.Form9.S.Show();
+
+    double totale = 0;
+    for (int k = 0; k < Aggiunte; ++k) {
+        auto inizio = std::chrono::steady_clock::now();
+        Stato.NumMovimenti += 1;
+        Stato.Movimenti[Stato.NumMovimenti] = Movimento(Stato.NumMovimenti);
+        AggiungiMovimento();
+        totale += std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() -
+                                                            inizio).count();
+    }
+    std::printf("%.2f\n", totale / Aggiunte);
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    std::string comando = argc == 3 ? argv[1] : "";
+    if (comando != "prepara" && comando != "aggiungi") {
+        std::fprintf(stderr, "uso: bench_registro prepara|aggiungi CARTELLA\n");
+        return 2;
+    }
+    PiattaformaSenzaSchermo porta;
+    ImpostaPiattaforma(&porta);
+    Stato.PercorsoProgramma = std::string(argv[2]) + "/";
+    bool riuscito = EseguiEvento(comando == "prepara" ? Prepara : Aggiungi);
+    for (const std::string& messaggio : porta.messaggi)
+        std::fprintf(stderr, "%s\n", messaggio.c_str());
+    ImpostaPiattaforma(nullptr);
+    return riuscito ? 0 : 1;
+}
