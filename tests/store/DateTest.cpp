@@ -2,6 +2,8 @@
 #include "store/Guasto.h"
 #include "store/Piattaforma.h"
 
+#include "tests/NumeroGuasto.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -9,15 +11,6 @@
 #include <vector>
 
 namespace {
-int NumeroGuasto(const std::function<void()>& azione) {
-    try {
-        azione();
-    } catch (const ErroreEsecuzione& e) {
-        return e.numero;
-    }
-    return 0;
-}
-
 // Keeps the message boxes and gives a fixed today.
 struct PiattaformaFinta : PortaPiattaforma {
     struct Messaggio {

@@ -3,6 +3,8 @@
 #include "store/Stato.h"
 #include "store/Testo.h"
 
+#include "tests/NumeroGuasto.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -48,14 +50,6 @@ protected:
     }
 };
 
-int NumeroDelGuasto(const std::function<void()>& azione) {
-    try {
-        azione();
-    } catch (const ErroreEsecuzione& e) {
-        return e.numero;
-    }
-    return 0;
-}
 
 RecRiporto Riporto(const char* data, double importo) {
     RecRiporto r;
@@ -190,14 +184,14 @@ TEST_F(FileRecordTest, Guasti) {
          [&] { LeggiContatore(dir + "manca/AB12.MOR"); }, 76},
     };
     for (const Riga& r : righe) {
-        EXPECT_EQ(NumeroDelGuasto(r.azione), r.numero) << r.nome;
+        EXPECT_EQ(NumeroGuasto(r.azione), r.numero) << r.nome;
         ChiudiTutti();
     }
 }
 
 TEST_F(FileRecordTest, UnLetturaFallitaPulisceComunque) {
     RecRiporto r = Riporto("01/01/1999", 5);
-    EXPECT_EQ(NumeroDelGuasto([&] { LeggiRecord(r, 1, 2); }), 52);
+    EXPECT_EQ(NumeroGuasto([&] { LeggiRecord(r, 1, 2); }), 52);
     EXPECT_EQ(r.DataRiporto.Testo(), "          ");
     EXPECT_EQ(r.ImportoRiporto, 0.0);
 }
@@ -206,7 +200,7 @@ TEST_F(FileRecordTest, PermessoNegato) {
     if (geteuid() == 0) GTEST_SKIP() << "root ignores file permissions";
     Crea("AB12.TOT", {});
     fs::permissions(dir + "AB12.TOT", fs::perms::owner_read);
-    EXPECT_EQ(NumeroDelGuasto([&] { ApriRecord(NomeFileConto(".TOT"), 72, 1); }), 75);
+    EXPECT_EQ(NumeroGuasto([&] { ApriRecord(NomeFileConto(".TOT"), 72, 1); }), 75);
 }
 
 TEST_F(FileRecordTest, CanaleRiapribileDopoLaChiusura) {
@@ -251,7 +245,7 @@ TEST_F(FileRecordTest, Contatori) {
     ScriviContatore(NomeFileConto(".MOR"), -5);
     EXPECT_EQ(LeggiContatore(NomeFileConto(".MOR")), -5);
     ApriRecord(NomeFileConto(".TOT"), 72, 2);
-    EXPECT_EQ(NumeroDelGuasto([&] { LeggiContatore(NomeFileConto(".MOR")); }), 67);
+    EXPECT_EQ(NumeroGuasto([&] { LeggiContatore(NomeFileConto(".MOR")); }), 67);
 }
 
 TEST_F(FileRecordTest, TestoInWindows1252) {
@@ -367,8 +361,8 @@ TEST_F(FileRecordTest, LetturaInBlocco) {
     EXPECT_EQ(righe[5].NrOper, 0);
     EXPECT_EQ(righe[5].D_A.Testo(), " ");
 
-    EXPECT_EQ(NumeroDelGuasto([&] { LeggiRecords(righe, 1, 6, 1); }), 9);
-    EXPECT_EQ(NumeroDelGuasto([&] { LeggiRecords(righe, 0, 2, 1); }), 63);
+    EXPECT_EQ(NumeroGuasto([&] { LeggiRecords(righe, 1, 6, 1); }), 9);
+    EXPECT_EQ(NumeroGuasto([&] { LeggiRecords(righe, 0, 2, 1); }), 63);
     std::vector<RecMovimento> vuote;
     LeggiRecords(vuote, 1, 0, 1);
     EXPECT_TRUE(vuote.empty());

@@ -1,21 +1,14 @@
 #include "store/Formato.h"
 #include "store/Guasto.h"
 
+#include "tests/NumeroGuasto.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
 
 namespace {
-int NumeroGuasto(const std::function<void()>& azione) {
-    try {
-        azione();
-    } catch (const ErroreEsecuzione& e) {
-        return e.numero;
-    }
-    return 0;
-}
-
 struct CasoFormat {
     const char* nome;
     double valore;

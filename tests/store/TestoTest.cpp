@@ -1,6 +1,8 @@
 #include "store/Guasto.h"
 #include "store/Testo.h"
 
+#include "tests/NumeroGuasto.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -9,15 +11,6 @@
 #include <string>
 
 namespace {
-int NumeroGuasto(const std::function<void()>& azione) {
-    try {
-        azione();
-    } catch (const ErroreEsecuzione& e) {
-        return e.numero;
-    }
-    return 0;
-}
-
 struct CasoVal {
     const char* nome;
     std::string testo;
