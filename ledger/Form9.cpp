@@ -1,7 +1,11 @@
 #include "ledger/Form9.h"
 
+#include "ledger/Cancellazione.h"
 #include "ledger/CaricaConto.h"
+#include "ledger/Form9Rinvii.h"
+#include "ledger/Immissione.h"
 #include "ledger/Registro.h"
+#include "shell/Applicazione.h"
 #include "store/Date.h"
 #include "store/FileRecord.h"
 #include "store/Piattaforma.h"
@@ -34,10 +38,7 @@ void LasciaData(Controllo& campo) {
         campo.SetFocus();
         return;
     }
-    PartiData p = DividiData(testo);
-    bool esito = true;
-    VerificaData(p.giorno, p.mese, p.anno, esito);
-    campo.SetText(esito ? TestoData(p.giorno, p.mese, p.anno) : DataVuotaMaschera);
+    ControllaCampoData(campo);
 }
 
 // A working date taken apart and written again as "DD/MM/YYYY".
@@ -45,7 +46,43 @@ std::string Riscritta(const std::string& data) {
     PartiData p = DividiData(data);
     return TestoData(p.giorno, p.mese, p.anno);
 }
+
+// A date of the line taking the focus: movements may have been added from the cheque screens,
+// so the count is read again from .MOR; the typing starts afresh.
+void EntraInData(Form9& f, std::string& tasti) {
+    Stato.NumMovimenti = LeggiContatore(NomeFileConto(".MOR"));
+    f.NrOper.SetText(std::to_string(Stato.NumMovimenti + 1));
+    tasti.clear();
+}
+
+// Every key but backspace and Enter counts towards the four that complete the year.
+void ContaTasto(std::string& tasti, int tasto) {
+    if (tasto != TastoBackspace && tasto != TastoInvio) tasti += static_cast<char>(tasto);
+}
+
+// Four keys typed give day and month: the year is today's, and the typing goes on in `prossimo`.
+void CompletaAnno(Controllo& campo, std::string& tasti, Controllo& prossimo) {
+    if (tasti.size() != 4) return;
+    campo.SetText(Left(campo.Text(), 6) + Right(Oggi(), 4));
+    tasti.clear();
+    prossimo.SetFocus();
+}
+
+// Enter moves on through the line and types nothing itself.
+bool Invio(int& tasto) {
+    if (tasto != TastoInvio) return false;
+    tasto = 0;
+    return true;
+}
 } // namespace
+
+bool ControllaCampoData(Controllo& campo) {
+    PartiData p = DividiData(campo.Text());
+    bool esito = true;
+    VerificaData(p.giorno, p.mese, p.anno, esito);
+    campo.SetText(esito ? TestoData(p.giorno, p.mese, p.anno) : DataVuotaMaschera);
+    return esito;
+}
 
 Form9::Form9() {
     Causale.MaxLength = 5;
@@ -148,6 +185,74 @@ Form9::Form9() {
         Command2.Enabled = false;
         Label25.SetText("Elenco Movimenti per data Valuta");
     };
+
+    // The entry line, in the order of typing.
+    DataOper.GotFocus = [this] { EntraInData(*this, TastiDataOper); };
+    DataOper.KeyPress = [this](int& tasto) {
+        ContaTasto(TastiDataOper, tasto);
+        // From a date Enter moves on only once an amount has been typed.
+        if (Invio(tasto) && !IMPORTO.Text().empty()) DataValuta.SetFocus();
+    };
+    DataOper.KeyUp = [this](int) { CompletaAnno(DataOper, TastiDataOper, DataValuta); };
+
+    DataValuta.GotFocus = [this] { EntraInData(*this, TastiDataValuta); };
+    DataValuta.KeyPress = [this](int& tasto) {
+        ContaTasto(TastiDataValuta, tasto);
+        if (Invio(tasto) && !IMPORTO.Text().empty()) Causale.SetFocus();
+    };
+    DataValuta.KeyUp = [this](int) { CompletaAnno(DataValuta, TastiDataValuta, Causale); };
+
+    Causale.KeyPress = [this](int& tasto) {
+        if (Invio(tasto)) IMPORTO.SetFocus();
+    };
+    // The cheque codes lead to their screens, which book their movements themselves.
+    Causale.LostFocus = [this] {
+        if (Causale.Text() == "AS") ApriAssegno();
+        else if (Causale.Text() == "CA") ApriCarnet();
+    };
+
+    IMPORTO.GotFocus = ControllaCausale;
+    IMPORTO.KeyPress = [this](int& tasto) {
+        if (Invio(tasto) && !IMPORTO.Text().empty()) NrDoc.SetFocus();
+    };
+
+    NrDoc.KeyPress = [this](int& tasto) {
+        if (Invio(tasto)) DescMovim.SetFocus();
+    };
+    NrDoc.Change = [this] {
+        if (Len(NrDoc.Text()) >= 8) DescMovim.SetFocus();
+    };
+
+    // Enter at the end of the line confirms it.
+    DescMovim.KeyPress = [](int& tasto) {
+        if (Invio(tasto)) ConfermaMovimento();
+    };
+    DescMovim.Change = [this] {
+        if (Len(DescMovim.Text()) >= 30) OK.SetFocus();
+    };
+
+    OK.Click = ConfermaMovimento;
+    pulisci.Click = PulisciImmissione;
+    Del.Click = CancellaMovimento;
+    Esc.Click = [this] {
+        S.Hide();
+        App().MDIForm1.S.Show();
+    };
+    Command3D1.Click = [] { App().FORM12.S.Show(true); };
+    Assegno.Click = GestioneAssegni;
+    BottCarnet.Click = GestioneCarnet;
+    SSCommand1.Click = ArchivioCarnet;
+    AssAnnull.Click = AssegniAnnullati;
+
+    // A movement double-clicked in either list comes into the line for a change.
+    auto richiama = [this] {
+        Del.Enabled = true;
+        CaricaMovimentoInMaschera();
+        if (Causale.Text() == "CA") ApriCarnet();
+        else if (Causale.Text() == "AS") ApriAssegno();
+    };
+    ElencoMovim.DblClick = richiama;
+    elencoValuta.DblClick = richiama;
 
     DataInizSel.KeyPress = FiltroData;
     DataFineSel.KeyPress = FiltroData;

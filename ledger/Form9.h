@@ -3,6 +3,8 @@
 // picture buttons, the two lists of the register and the selection of dates above them.
 #include "screen/Schermo.h"
 
+#include <string>
+
 struct Form9 {
     Schermo S{"Form9", "Immissione / Modifica Movimenti"};
 
@@ -64,5 +66,13 @@ struct Form9 {
     Controllo Command1{S, TipoControllo::Pulsante, "Command1", "data op."};
     Controllo Command2{S, TipoControllo::Pulsante, "Command2", "data val."};
 
+    // The keys typed into each date of the line since it took the focus: four of them complete
+    // the year.
+    std::string TastiDataOper, TastiDataValuta;
+
     Form9();
 };
+
+// A date field checked as the screens check one: taken apart and verified, then written again as
+// "DD/MM/YYYY", or emptied after the message of a bad date. True for a good date.
+bool ControllaCampoData(Controllo& campo);

@@ -315,7 +315,12 @@ void Scrivi(Legame& l) {
             int massimo = c.MaxLength > 0 ? c.MaxLength : 32767;
             if (campo->maxLength() != massimo) campo->setMaxLength(massimo);
         }
-        if (TestoDi(*campo, c) != c.Text()) campo->setText(Q(c.Text()));
+        if (TestoDi(*campo, c) != c.Text()) {
+            campo->setText(Q(c.Text()));
+            // An emptied date field takes the next digit in its first place, not after the mask.
+            if (c.tipo == TipoControllo::Data && c.Text() == DataVuotaMaschera)
+                campo->setCursorPosition(0);
+        }
     } else if (auto* etichetta = qobject_cast<QLabel*>(w)) {
         if (c.tipo == TipoControllo::Immagine) {
             if (l.immagine != c.Text()) {

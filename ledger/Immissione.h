@@ -1,0 +1,27 @@
+#pragma once
+// The entry line of Form9: the causale checked before the amount, the confirm with its two paths
+// (a new movement, or the change of the movement loaded from a list), the load of a movement into
+// the line, and its clearing. While a movement sits in the line for a change (MovimentoCorrente)
+// the working balances leave it out; a save or pulisci puts it back.
+
+// IMPORTO taking the focus: the typed causale looked up in the table. A known code fills the
+// description, Sospeso (unless it reads "N") and D_A (unless the code is "GC"); an unknown one
+// sends the focus back to Causale with a message; an empty one passes.
+void ControllaCausale();
+
+// OK: the dates and the amount checked, then the line stored as a new movement, or over the
+// loaded one.
+void ConfermaMovimento();
+
+// The line stored over Movimenti[MovimentoCorrente]: .MOV, .Ord, the refilled list, the line
+// emptied, and the movement back in the balances.
+void ModificaMovimento();
+
+// The selected line of the list on view into the entry line; the movement leaves the balances.
+void CaricaMovimentoInMaschera();
+
+// pulisci: the line emptied, the lists unselected, and the loaded movement back in the balances.
+void PulisciImmissione();
+
+// Every field of the entry line emptied, NrOper aside.
+void SvuotaRiga();

@@ -1,0 +1,488 @@
+#include "AmbienteRegistro.h"
+
+#include "ledger/Immissione.h"
+#include "ledger/Registro.h"
+
+#include <string>
+#include <vector>
+
+// Today is 05/07/2001 throughout. Date numbers: 01/07/2001 732366 + 181 + 1 = 732548,
+// 02/07/2001 732549, 10/07/2001 732557 (post-dated).
+
+namespace {
+const std::string dataErrata =
+    "[Errore]  Data Errata; Inserire la data nel formato GGMMAAAA immettendo lo zero davanti ai "
+    "numeri con una sola cifra. -> OK";
+} // namespace
+
+class ImmissioneTest : public AmbienteRegistro {
+protected:
+    void SetUp() override {
+        AmbienteRegistro::SetUp();
+        Stato.Causali[1].Sospeso = "S";
+        Stato.Causali[1].DareAvere = "E";
+        Stato.Causali[2].Sospeso = "N";
+        Stato.Causali[2].DareAvere = "U";
+        Stato.NumCausali = 3;
+        Stato.Causali[3].CodCausale = "GC";
+        Stato.Causali[3].DescCausale = "GIROCONTO";
+        Stato.Causali[3].Sospeso = "S";
+        Stato.Causali[3].DareAvere = "U";
+    }
+
+    Form9& f() { return app->Form9; }
+
+    // The line filled as the user fills it: the causale is checked as the amount takes the
+    // focus, before the amount is typed.
+    void Riga(const std::string& dataOper, const std::string& dataValuta,
+              const std::string& causale, const std::string& importo,
+              const std::string& nrDoc = "", const std::string& descrizione = "") {
+        f().DataOper.SetFocus();
+        f().DataOper.SetText(dataOper);
+        f().DataValuta.SetFocus();
+        f().DataValuta.SetText(dataValuta);
+        f().Causale.SetFocus();
+        f().Causale.SetText(causale);
+        f().IMPORTO.SetFocus();
+        f().IMPORTO.SetText(importo);
+        f().NrDoc.SetFocus();
+        f().NrDoc.SetText(nrDoc);
+        f().DescMovim.SetFocus();
+        f().DescMovim.SetText(descrizione);
+    }
+
+    // A double click on the line of movement n in the list on view.
+    void Richiama(int n) {
+        Controllo& lista = f().ElencoMovim.Visible ? f().ElencoMovim : f().elencoValuta;
+        for (int i = 0; i < lista.ListCount(); ++i)
+            if (NumeroDaRiga(lista.List(i)) == n) {
+                lista.SetListIndex(i);
+                lista.DoppioClic();
+                return;
+            }
+        FAIL() << "no line for movement " << n;
+    }
+
+    static std::vector<double> Saldi() {
+        return {Stato.SaldoAllineamento, Stato.SaldoOperazione, Stato.SaldoValuta,
+                Stato.SaldoUltimaData};
+    }
+    std::vector<double> SaldiTot() const {
+        RecTotali t = LeggiTotali();
+        return {t.SaldoAllineamento, t.SaldoOperazione, t.SaldoValuta, t.SaldoUltimaData};
+    }
+};
+
+// OK with a line that can't be stored: the message, the field that gets the focus, and nothing
+// stored.
+struct CasoRifiuto {
+    const char* nome;
+    const char* dataOper;
+    const char* dataValuta;
+    const char* importo;
+    std::vector<std::string> messaggi;
+    const char* fuoco;
+    const char* dataOperDopo;
+    const char* dataValutaDopo;
+    bool clessidra;
+};
+
+class RifiutoTest : public ImmissioneTest, public ::testing::WithParamInterface<CasoRifiuto> {};
+
+TEST_P(RifiutoTest, NienteMemorizzato) {
+    const CasoRifiuto& c = GetParam();
+    f().S.Show();
+    Riga(c.dataOper, c.dataValuta, "VS", c.importo);
+    porta.messaggi.clear();
+
+    f().OK.Clicca();
+
+    EXPECT_EQ(porta.messaggi, c.messaggi);
+    EXPECT_EQ(Riferimento(*f().S.Fuoco()), c.fuoco);
+    EXPECT_EQ(f().DataOper.Text(), c.dataOperDopo);
+    EXPECT_EQ(f().DataValuta.Text(), c.dataValutaDopo);
+    EXPECT_EQ(porta.clessidra, c.clessidra);
+    EXPECT_EQ(Stato.NumMovimenti, 0);
+    EXPECT_EQ(LeggiContatore(File(".MOR")), 0);
+    EXPECT_EQ(f().ElencoMovim.ListCount(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Immissione, RifiutoTest,
+    ::testing::Values(
+        CasoRifiuto{"data_operazione_vuota", "", "01/07/2001", "10",
+                    {"BEEP", "[ERRORE] Campo data operazione obbligatorio -> OK"},
+                    "Form9.DataOper", "__/__/____", "01/07/2001", false},
+        CasoRifiuto{"data_valuta_vuota", "01/07/2001", "", "10",
+                    {"BEEP", "[ERRORE] Campo data Valuta obbligatorio -> OK"},
+                    "Form9.DataValuta", "01/07/2001", "__/__/____", false},
+        // Both dates are refused as empty before either is checked.
+        CasoRifiuto{"valuta_vuota_prima_del_controllo", "31/04/2001", "", "10",
+                    {"BEEP", "[ERRORE] Campo data Valuta obbligatorio -> OK"},
+                    "Form9.DataValuta", "31/04/2001", "__/__/____", false},
+        CasoRifiuto{"data_operazione_errata", "31/04/2001", "01/07/2001", "10", {dataErrata},
+                    "Form9.DataOper", "__/__/____", "01/07/2001", false},
+        CasoRifiuto{"data_valuta_errata", "01/07/2001", "29/02/2001", "10", {dataErrata},
+                    "Form9.DataValuta", "01/07/2001", "__/__/____", false},
+        // Past the dates the hourglass is on, and it stays until the next action.
+        CasoRifiuto{"importo_vuoto", "01/07/2001", "02/07/2001", "",
+                    {"[] Campo Importo obbligatorio -> OK"}, "Form9.IMPORTO", "01/07/2001",
+                    "02/07/2001", true}),
+    [](const auto& info) { return std::string(info.param.nome); });
+
+TEST_F(ImmissioneTest, NuovoMovimentoMemorizzatoERigaVuota) {
+    f().S.Show();
+    Riga("01/07/2001", "10/07/2001", "PR", "1.234,56", "A-17", "Bolletta");
+    f().OK.Clicca();
+
+    ASSERT_EQ(Stato.NumMovimenti, 1);
+    EXPECT_EQ(LeggiContatore(File(".MOR")), 1);
+    auto mov = Leggi(".MOV");
+    ASSERT_EQ(mov.size(), 1u);
+    const RecMovimento& m = mov[0];
+    EXPECT_EQ(m.NrOper, 1);
+    EXPECT_EQ(m.DataOper, "01/07/2001");
+    EXPECT_EQ(m.DataValuta, "10/07/2001");
+    EXPECT_EQ(m.Causale, "PR   ");
+    EXPECT_DOUBLE_EQ(m.IMPORTO, 1234.56);
+    EXPECT_EQ(m.NrDoc, "A-17    ");
+    EXPECT_EQ(m.DescMovim.Testo(), Giustifica("Bolletta", 30));
+    EXPECT_EQ(m.Sospeso, "N");
+    EXPECT_EQ(m.D_A, "U");
+    EXPECT_EQ(m.Annullato, "N");
+
+    EXPECT_EQ(f().ElencoMovim.Righe(),
+              (std::vector<std::string>{" 732548  01/07/2001 10/07/2001 0001 Prelievo"
+                                        "              N   U      A-17        1.234,56 *"}));
+    // An outgoing aligned movement, post-dated by value: the value balance doesn't see it yet.
+    EXPECT_EQ(Saldi(), (std::vector<double>{-1234.56, -1234.56, 0, -1234.56}));
+    EXPECT_EQ(SaldiTot(), Saldi());
+    EXPECT_EQ(app->MDIForm1.Saldi(1).Text(), "-1.234,56");
+
+    for (Controllo* c : {&f().DataOper, &f().DataValuta})
+        EXPECT_EQ(c->Text(), "__/__/____") << c->nome;
+    for (Controllo* c : {&f().Causale, &f().DescrCausale, &f().IMPORTO, &f().NrDoc,
+                         &f().DescMovim, &f().Sospeso, &f().D_A})
+        EXPECT_EQ(c->Text(), "") << c->nome;
+    EXPECT_FALSE(f().Del.Enabled);
+    EXPECT_TRUE(f().DataOper.HaFuoco());
+    EXPECT_EQ(f().NrOper.Text(), "2");
+    EXPECT_FALSE(porta.clessidra);
+    EXPECT_EQ(f().DataInizSel.Text(), "01/07/2001");
+    EXPECT_EQ(f().DataFineSel.Text(), "01/07/2001");
+    EXPECT_EQ(Numeri(Leggi(".Ord")), (std::vector<int>{1, 0}));
+}
+
+TEST_F(ImmissioneTest, ImportoDivisoPerIlCambioEMostratoMoltiplicato) {
+    Stato.Cambio = 1936.27;
+    f().S.Show();
+    Riga("01/07/2001", "01/07/2001", "VS", "1.000.000");
+    f().OK.Clicca();
+
+    // No rounding of the stored quotient.
+    EXPECT_EQ(Leggi(".MOV").at(0).IMPORTO, 1000000 / 1936.27);
+    const std::string riga = f().ElencoMovim.List(0);
+    EXPECT_EQ(riga.substr(riga.size() - 15), "   1.000.000,00");
+    EXPECT_EQ(app->MDIForm1.Saldi(4).Text(), "1.000.000,00");
+
+    Richiama(1);
+    EXPECT_EQ(f().IMPORTO.Text(), "1.000.000,00");
+}
+
+TEST_F(ImmissioneTest, CambioZeroEUnGuastoENienteMemorizzato) {
+    Stato.Cambio = 0;
+    f().S.Show();
+    Riga("01/07/2001", "01/07/2001", "VS", "100");
+    porta.messaggi.clear();
+
+    EXPECT_FALSE(EseguiEvento([&] { f().OK.Clicca(); }));
+
+    EXPECT_EQ(porta.messaggi, (std::vector<std::string>{"FAILURE 11 Divisione per zero"}));
+    EXPECT_EQ(Stato.NumMovimenti, 0);
+    EXPECT_EQ(LeggiContatore(File(".MOR")), 0);
+    EXPECT_EQ(f().ElencoMovim.ListCount(), 0);
+    EXPECT_EQ(f().IMPORTO.Text(), "100");
+}
+
+TEST_F(ImmissioneTest, PostoDiAppoggioConAnnullatoLoConserva) {
+    f().S.Show();
+    Stato.Movimenti[1].Annullato = "S";
+    Riga("01/07/2001", "01/07/2001", "VS", "5");
+    f().OK.Clicca();
+    EXPECT_EQ(Leggi(".MOV").at(0).Annullato, "S");
+}
+
+TEST_F(ImmissioneTest, CambioDellUltimoMovimentoNonNeAggiungeUno) {
+    ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "S"),
+                     Mov(2, "02/07/2001", "02/07/2001", 40, "U", "N", "PR", "", "S")});
+    f().S.Show();
+    EXPECT_EQ(Saldi(), (std::vector<double>{-40, 60, 60, 60}));
+
+    Richiama(2);
+    EXPECT_EQ(Stato.MovimentoCorrente, 2);
+    EXPECT_EQ(f().NrOper.Text(), "2");
+    EXPECT_EQ(f().Causale.Text(), "PR");
+    EXPECT_EQ(f().DescrCausale.Text(), "Prelievo");
+    EXPECT_EQ(f().IMPORTO.Text(), "40,00");
+    EXPECT_EQ(f().DescMovim.Text(), "movimento 2");
+    // Marked for elimination: Del offers to recover it.
+    EXPECT_TRUE(f().Del.Enabled);
+    EXPECT_EQ(f().Del.Text(), "Rec");
+    // Out of the balances and of .TOT while it sits in the line; the panel isn't redrawn.
+    EXPECT_EQ(Saldi(), (std::vector<double>{0, 100, 100, 100}));
+    EXPECT_EQ(SaldiTot(), Saldi());
+    EXPECT_EQ(app->MDIForm1.Saldi(1).Text(), "60,00");
+
+    f().IMPORTO.SetFocus();
+    f().IMPORTO.SetText("45,5");
+    f().OK.Clicca();
+
+    EXPECT_EQ(Stato.NumMovimenti, 2);
+    EXPECT_EQ(LeggiContatore(File(".MOR")), 2);
+    auto mov = Leggi(".MOV");
+    ASSERT_EQ(mov.size(), 2u);
+    EXPECT_EQ(mov[1].NrOper, 2);
+    EXPECT_DOUBLE_EQ(mov[1].IMPORTO, 45.5);
+    EXPECT_EQ(mov[1].Annullato, "N");
+    // The scratch place past the end took the line and was given up.
+    EXPECT_EQ(Stato.Movimenti[3].NrOper, 3);
+    EXPECT_EQ(Saldi(), (std::vector<double>{-45.5, 54.5, 54.5, 54.5}));
+    EXPECT_EQ(SaldiTot(), Saldi());
+    EXPECT_EQ(app->MDIForm1.Saldi(1).Text(), "54,50");
+    EXPECT_EQ(Stato.MovimentoCorrente, 0);
+    EXPECT_FALSE(f().Del.Enabled);
+    EXPECT_EQ(f().Del.Text(), "Del");
+    EXPECT_EQ(f().IMPORTO.Text(), "");
+    EXPECT_TRUE(f().DataOper.HaFuoco());
+    const std::string riga = f().ElencoMovim.List(1);
+    EXPECT_EQ(riga.substr(riga.size() - 7), "45,50 *");
+    EXPECT_EQ(Numeri(Leggi(".Ord")), (std::vector<int>{1, 2, 0}));
+}
+
+TEST_F(ImmissioneTest, CambioNellaVistaPerValutaRivendicaLOrdinePerOperazione) {
+    ScriviMovimenti({Mov(1, "01/07/2001", "02/07/2001", 100, "E", "S", "VS", "", "S")});
+    f().S.Show();
+    f().Command2.Clicca();
+    ASSERT_TRUE(f().elencoValuta.Visible);
+
+    Richiama(1);
+    f().OK.Clicca();
+
+    // Refilled by value date, the mark of the elimination now gone, while the buttons say the
+    // order is by operation date.
+    EXPECT_TRUE(f().elencoValuta.Visible);
+    EXPECT_FALSE(f().ElencoMovim.Visible);
+    EXPECT_EQ(f().Label25.Text(), "Elenco Movimenti per data valuta");
+    const std::string riga = f().elencoValuta.List(0);
+    EXPECT_EQ(riga.substr(0, 7), " 732549");
+    EXPECT_EQ(riga.substr(riga.size() - 6), "100,00");
+    EXPECT_FALSE(f().Command1.Enabled);
+    EXPECT_TRUE(f().Command2.Enabled);
+}
+
+TEST_F(ImmissioneTest, PulisciRimetteIlMovimentoComEra) {
+    ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N"),
+                     Mov(2, "02/07/2001", "02/07/2001", 40, "U", "S", "PR", "", "S")});
+    f().S.Show();
+    const auto prima = Saldi();
+
+    Richiama(2);
+    f().IMPORTO.SetFocus();
+    f().IMPORTO.SetText("999");
+    f().pulisci.Clicca();
+
+    EXPECT_EQ(Saldi(), prima);
+    EXPECT_EQ(SaldiTot(), prima);
+    EXPECT_EQ(app->MDIForm1.Saldi(1).Text(), "60,00");
+    EXPECT_EQ(Leggi(".MOV").at(1).IMPORTO, 40);
+    EXPECT_EQ(Stato.MovimentoCorrente, 0);
+    EXPECT_EQ(f().ElencoMovim.ListIndex(), -1);
+    EXPECT_EQ(f().elencoValuta.ListIndex(), -1);
+    EXPECT_FALSE(f().Del.Enabled);
+    EXPECT_EQ(f().Del.Text(), "Del");
+    EXPECT_EQ(f().IMPORTO.Text(), "");
+    EXPECT_TRUE(f().DataOper.HaFuoco());
+    // pulisci shows the count, and DataOper taking the focus the number of the next one.
+    EXPECT_EQ(f().NrOper.Text(), "3");
+}
+
+TEST_F(ImmissioneTest, EscConMovimentoRichiamatoLasciaISaldiSenzaFinoAlRicarico) {
+    ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N"),
+                     Mov(2, "02/07/2001", "02/07/2001", 40, "E", "N")});
+    app->MDIForm1.S.Show();
+    f().S.Show();
+
+    Richiama(2);
+    f().Esc.Clicca();
+
+    EXPECT_FALSE(f().S.Mostrato());
+    EXPECT_EQ(SchermoAttivo(), &app->MDIForm1.S);
+    EXPECT_EQ(Saldi(), (std::vector<double>{100, 100, 100, 100}));
+    EXPECT_EQ(SaldiTot(), Saldi());
+
+    f().S.Show();
+    EXPECT_EQ(Saldi(), (std::vector<double>{140, 140, 140, 140}));
+}
+
+TEST_F(ImmissioneTest, GirocontoAnnullatoNonMemorizzaNulla) {
+    ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N")});
+    Stato.NumConti = 2;
+    f().S.Show();
+    // The transfer screen says by the flag that it was left without booking.
+    Stato.FlagOperazione = 1;
+    Riga("02/07/2001", "02/07/2001", "GC", "50");
+    f().OK.Clicca();
+
+    EXPECT_EQ(Stato.FlagOperazione, 0);
+    EXPECT_EQ(Stato.NumMovimenti, 1);
+    EXPECT_EQ(LeggiContatore(File(".MOR")), 1);
+    EXPECT_EQ(Leggi(".MOV").size(), 1u);
+    EXPECT_EQ(f().ElencoMovim.ListCount(), 1);
+    EXPECT_EQ(f().Causale.Text(), "");
+    EXPECT_TRUE(f().DataOper.HaFuoco());
+    EXPECT_EQ(f().NrOper.Text(), "2");
+    EXPECT_FALSE(porta.clessidra);
+
+    // The next movement takes the next number.
+    Riga("03/07/2001", "03/07/2001", "VS", "7");
+    f().OK.Clicca();
+    EXPECT_EQ(Numeri(Leggi(".MOV")), (std::vector<int>{1, 2}));
+}
+
+TEST_F(ImmissioneTest, GirocontoConUnSoloContoSiMemorizzaSubito) {
+    f().S.Show();
+    Stato.FlagOperazione = 1;
+    Riga("02/07/2001", "02/07/2001", "GC", "50");
+    f().OK.Clicca();
+    EXPECT_EQ(Stato.NumMovimenti, 1);
+    EXPECT_EQ(Stato.FlagOperazione, 1);
+}
+
+TEST_F(ImmissioneTest, LaSelezioneAllargaLeDateDiLavoroSenzaRestringerle) {
+    ScriviMovimenti({Mov(1, "01/06/2001", "01/06/2001", 1, "E", "S"),
+                     Mov(2, "03/07/2001", "03/07/2001", 1, "E", "S")});
+    f().S.Show();
+    auto allarga = [&](const char* dal, const char* al) {
+        f().DataInizSel.SetText(dal);
+        f().DataFineSel.SetText(al);
+        Riga("02/07/2001", "02/07/2001", "VS", "");
+        f().OK.Clicca();
+    };
+
+    allarga("15/06/2001", "02/07/2001");
+    EXPECT_EQ(Stato.PrimaDataOperazione, "01/06/2001");
+    EXPECT_EQ(Stato.UltimaDataOperazione, "03/07/2001");
+    EXPECT_EQ(f().DataInizSel.Text(), "15/06/2001");
+
+    allarga("01/01/2001", "31/12/2001");
+    EXPECT_EQ(Stato.PrimaDataOperazione, "01/01/2001");
+    EXPECT_EQ(Stato.UltimaDataOperazione, "31/12/2001");
+    EXPECT_EQ(app->MDIForm1.UltimaData.Text(), "31/12/2001");
+}
+
+// The causale as IMPORTO takes the focus, over what the line already holds.
+struct CasoCausale {
+    const char* nome;
+    const char* digitata;
+    const char* sospesoPrima;
+    const char* dAPrima;
+    const char* causale;
+    const char* descrizione;
+    const char* sospeso;
+    const char* dA;
+    bool rifiutata;
+};
+
+class CausaleTest : public ImmissioneTest, public ::testing::WithParamInterface<CasoCausale> {};
+
+TEST_P(CausaleTest, AlFuocoDellImporto) {
+    const CasoCausale& c = GetParam();
+    f().S.Show();
+    f().Causale.SetFocus();
+    f().Causale.SetText(c.digitata);
+    f().Sospeso.SetText(c.sospesoPrima);
+    f().D_A.SetText(c.dAPrima);
+    porta.messaggi.clear();
+
+    f().IMPORTO.SetFocus();
+
+    std::vector<std::string> attesi;
+    if (c.rifiutata) attesi.push_back("[ERRORE] CODICE CAUSALE NON PRESENTE! -> OK");
+    EXPECT_EQ(porta.messaggi, attesi);
+    EXPECT_EQ(c.rifiutata ? f().Causale.HaFuoco() : f().IMPORTO.HaFuoco(), true);
+    EXPECT_EQ(f().Causale.Text(), c.causale);
+    EXPECT_EQ(f().DescrCausale.Text(), c.descrizione);
+    EXPECT_EQ(f().Sospeso.Text(), c.sospeso);
+    EXPECT_EQ(f().D_A.Text(), c.dA);
+}
+
+// The description is the table's, cut to its 25 characters.
+INSTANTIATE_TEST_SUITE_P(
+    Immissione, CausaleTest,
+    ::testing::Values(
+        CasoCausale{"trovata", "VS", "", "", "VS", "Versamento contanti in ba", "S", "E",
+                    false},
+        CasoCausale{"blank_in_coda_tolti", "VS  ", "", "", "VS", "Versamento contanti in ba",
+                    "S", "E", false},
+        CasoCausale{"minuscola_rifiutata", "vs", "", "", "vs", "", "", "", true},
+        CasoCausale{"blank_in_testa_rifiutata", " VS", "", "", " VS", "", "", "", true},
+        CasoCausale{"vuota_passa", "", "", "", "", "", "", "", false},
+        CasoCausale{"sospeso_n_resta", "VS", "N", "U", "VS", "Versamento contanti in ba",
+                    "N", "E", false},
+        CasoCausale{"giroconto_tiene_la_direzione", "GC", "", "E", "GC", "GIROCONTO", "S", "E",
+                    false}),
+    [](const auto& info) { return std::string(info.param.nome); });
+
+// Keys typed into DataOper of an empty line: four of them, whatever they are, complete the year.
+struct CasoTasti {
+    const char* nome;
+    std::vector<int> tasti;
+    const char* importo;
+    const char* testo;
+    const char* fuoco;
+};
+
+class TastiDataTest : public ImmissioneTest, public ::testing::WithParamInterface<CasoTasti> {};
+
+TEST_P(TastiDataTest, CompletamentoDellAnno) {
+    const CasoTasti& c = GetParam();
+    f().S.Show();
+    f().IMPORTO.SetText(c.importo);
+    f().DataOper.SetFocus();
+    for (int tasto : c.tasti) f().S.Fuoco()->Digita(tasto);
+    EXPECT_EQ(f().DataOper.Text(), c.testo);
+    EXPECT_EQ(Riferimento(*f().S.Fuoco()), c.fuoco);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Immissione, TastiDataTest,
+    ::testing::Values(
+        CasoTasti{"quattro_cifre", {'1', '5', '0', '3'}, "", "15/03/2001", "Form9.DataValuta"},
+        CasoTasti{"tre_cifre_restano", {'1', '5', '0'}, "", "15/0_/____", "Form9.DataOper"},
+        CasoTasti{"invio_senza_importo_resta", {'1', '5', TastoInvio}, "", "15/__/____",
+                  "Form9.DataOper"},
+        CasoTasti{"invio_con_importo_avanza", {'1', '5', TastoInvio}, "3", "15/__/____",
+                  "Form9.DataValuta"},
+        CasoTasti{"backspace_non_conta", {'1', TastoBackspace, '5', '0', '3'}, "",
+                  "50/3_/2001", "Form9.DataValuta"},
+        CasoTasti{"la_barra_conta", {'1', '5', '/', '0'}, "", "15/0_/2001",
+                  "Form9.DataValuta"}),
+    [](const auto& info) { return std::string(info.param.nome); });
+
+TEST_F(ImmissioneTest, CampiPieniAvanzanoEInvioInFondoConferma) {
+    f().S.Show();
+    Riga("01/07/2001", "01/07/2001", "VS", "12");
+    f().NrDoc.SetFocus();
+    f().NrDoc.SetText("");
+    for (char c : std::string("12345678")) f().S.Fuoco()->Digita(c);
+    EXPECT_EQ(f().NrDoc.Text(), "12345678");
+    EXPECT_TRUE(f().DescMovim.HaFuoco());
+    for (char c : std::string(30, 'x')) f().S.Fuoco()->Digita(c);
+    EXPECT_TRUE(f().OK.HaFuoco());
+
+    f().DescMovim.SetFocus();
+    f().DescMovim.SetText("Fine");
+    f().DescMovim.Digita(TastoInvio);
+    EXPECT_EQ(Stato.NumMovimenti, 1);
+    EXPECT_EQ(Leggi(".MOV").at(0).DescMovim.Testo(), Giustifica("Fine", 30));
+}
