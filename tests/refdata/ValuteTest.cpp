@@ -9,31 +9,18 @@
 #include <algorithm>
 
 namespace {
-struct ValuteTest : Ambiente {
-    void SetUp() override {
-        Ambiente::SetUp();
-        Avvia();
-        Messaggi();
-    }
-
+struct ValuteTest : AmbienteAvviato {
     Form25& F25() { return app->Form25; }
+    RecValuta SuDisco(long n) { return LeggiDa<RecValuta>(programma / "Valute.DAT", n); }
 
-    RecValuta SuDisco(long numero) {
-        RecValuta v;
-        ApriRecord((programma / "Valute.DAT").string(), RecValuta::Lunghezza, 1);
-        LeggiRecord(v, numero, 1);
-        ChiudiRecord(1);
-        return v;
+    // Form25 shown with its fields unlocked.
+    void Sblocca() {
+        F25().S.Show();
+        F25().Check1.Clicca();
     }
-
-    // The 60 bytes of record n of Valute.DAT.
-    Byte Blocco(const Byte& file, long n) {
-        return Byte(file.begin() + (n - 1) * 60, file.begin() + n * 60);
-    }
-
     void ConfermaSulForm25(Controllo& comando, const std::string& cambio, int box) {
         F25().Box(box).SetText(cambio);
-        EXPECT_TRUE(EseguiEvento([&] { comando.Clicca(); }));
+        EXPECT_TRUE(Clic(comando));
     }
 };
 
@@ -72,11 +59,9 @@ TEST_F(ValuteTest, OgniValutaRestaAlSuoRecordInQualunqueOrdineSiConfermino) {
     };
     for (const auto& ordine : ordini) {
         SCOPED_TRACE(::testing::PrintToString(ordine));
-        app.reset();
         fs::remove_all(programma);
         Avvia();
-        F25().S.Show();
-        F25().Check1.Clicca();
+        Sblocca();
         for (int k : ordine) {
             const Riga25& r = Righe25[k];
             ConfermaSulForm25(F25().*r.comando, r.digitato, static_cast<int>(r.record - 1));
@@ -86,164 +71,75 @@ TEST_F(ValuteTest, OgniValutaRestaAlSuoRecordInQualunqueOrdineSiConfermino) {
         for (const Riga25& r : Righe25) {
             RecValuta v = SuDisco(r.record);
             EXPECT_EQ(v.Numero, r.record);
-            EXPECT_EQ(v.Nome.Testo(), Giustifica(r.nome, 25));
-            EXPECT_EQ(v.Paese.Testo(), Giustifica(r.paese, 25));
+            EXPECT_EQ(RTrim(v.Nome), r.nome);
+            EXPECT_EQ(RTrim(v.Paese), r.paese);
             EXPECT_EQ(v.Cambio, r.cambio) << r.nome << " " << r.paese;
         }
         RecValuta euro = SuDisco(15);
-        EXPECT_EQ(euro.Numero, 15);
-        EXPECT_EQ(Trim(euro.Nome) + "/" + Trim(euro.Paese), "Euro/Unione Europea");
+        EXPECT_EQ(RTrim(euro.Nome) + " - " + RTrim(euro.Paese), "Euro - Unione Europea");
         EXPECT_EQ(euro.Cambio, 1);
     }
 }
 
-TEST_F(ValuteTest, OgniPulsanteScriveSoloIlProprioRecord) {
-    F25().S.Show();
-    F25().Check1.Clicca();
+TEST_F(ValuteTest, OgniPulsanteScriveSoloIlProprioRecordENonIlCambioInUso) {
+    Stato.Cambio = 1;
+    Sblocca();
     // A rate typed beside another currency and never confirmed is not stored.
     F25().Box(5).SetText("1,95583");
-    const Byte prima = ContenutoFile(programma / "Valute.DAT");
+    Byte atteso = ContenutoFile(programma / "Valute.DAT");
     ConfermaSulForm25(F25().SSCommand1, "1.936,27", 6);
-
-    const Byte dopo = ContenutoFile(programma / "Valute.DAT");
-    ASSERT_EQ(dopo.size(), prima.size());
-    for (long n = 1; n <= 15; ++n)
-        if (n != 7) EXPECT_EQ(Blocco(dopo, n), Blocco(prima, n)) << "record " << n;
-    Byte lira{7, 0};
-    for (char c : Giustifica("Lira", 25))
-        lira.push_back(static_cast<unsigned char>(c));
-    // 1936.27 as a little-endian double: 0x409E4114 7AE147AE.
-    for (unsigned char c : {0xAE, 0x47, 0xE1, 0x7A, 0x14, 0x41, 0x9E, 0x40})
-        lira.push_back(c);
-    for (char c : Giustifica("Italia", 25))
-        lira.push_back(static_cast<unsigned char>(c));
-    EXPECT_EQ(Blocco(dopo, 7), lira);
-}
-
-TEST_F(ValuteTest, IlTassoNonRaggiungeIlCambioInUsoFinCheLaValutaNonVieneScelta) {
-    Stato.Cambio = 1;
-    F25().S.Show();
-    F25().Check1.Clicca();
-    ConfermaSulForm25(F25().SSCommand1, "1.936,27", 6);
-    EXPECT_EQ(Stato.Cambio, 1);
+    Byte dopo = ContenutoFile(programma / "Valute.DAT");
+    ASSERT_EQ(dopo.size(), atteso.size());
+    std::copy(dopo.begin() + 6 * 60, dopo.begin() + 7 * 60, atteso.begin() + 6 * 60);
+    EXPECT_EQ(dopo, atteso);
+    EXPECT_EQ(SuDisco(7).Cambio, 1936.27);
+    // The rate reaches the table, not the currency in use until it is chosen.
     EXPECT_EQ(Stato.Valute[7].Cambio, 1936.27);
-}
-
-TEST_F(ValuteTest, AllAperturaICampiMostranoITassiEBloccaIDatiLiSpegne) {
-    ScriviValuta(7, "Lira", "Italia", 1936.27);
-    ScriviValuta(6, "Marco", "Germania", 1.95583);
-    F25().S.Show();
-    EXPECT_EQ(F25().Box(6).Text(), "1936,27");
-    EXPECT_EQ(F25().Box(5).Text(), "1,95583");
-    EXPECT_EQ(F25().Box(0).Text(), "0");
-    EXPECT_EQ(F25().Box(13).ToolTipText, "Rapporto di parità con l'Euro");
-
-    EXPECT_TRUE(F25().Check1.Value());
-    for (bool bloccato : {true, false, true}) {
-        for (int i = 0; i < 14; ++i)
-            EXPECT_EQ(F25().Box(i).Enabled, !bloccato) << i;
-        F25().Check1.Clicca();
-    }
+    EXPECT_EQ(Stato.Cambio, 1);
 }
 
 TEST_F(ValuteTest, UnTassoNonNumericoEUnGuastoENonScriveNulla) {
     const Byte prima = ContenutoFile(programma / "Valute.DAT");
-    F25().S.Show();
-    F25().Check1.Clicca();
+    Sblocca();
     F25().Box(6).SetText("");
-    EXPECT_FALSE(EseguiEvento([&] { F25().SSCommand1.Clicca(); }));
+    EXPECT_FALSE(Clic(F25().SSCommand1));
     EXPECT_EQ(Messaggi(), std::vector<std::string>{"FAILURE 13 Tipo non corrispondente"});
     EXPECT_EQ(ContenutoFile(programma / "Valute.DAT"), prima);
 }
 
-struct ConvertoreTest : ValuteTest {
-    Convertore& C() { return app->Convertore; }
-
-    void Scegli(Controllo& combo, const std::string& testo) {
-        auto it = std::find(combo.Righe().begin(), combo.Righe().end(), testo);
-        ASSERT_NE(it, combo.Righe().end()) << testo;
-        combo.SetListIndex(static_cast<int>(it - combo.Righe().begin()));
-    }
-};
-
-TEST_F(ConvertoreTest, AlPrimoAvvioQuattordiciRigheVuoteEPoiLEuro) {
-    C().S.Show();
-    std::vector<std::string> righe(14, " - ");
-    righe.push_back("Euro - Unione Europea");
-    EXPECT_EQ(C().Combo1.Righe(), righe);
-    EXPECT_EQ(C().Combo2.Righe(), righe);
-    EXPECT_EQ(C().Combo1.ListIndex(), 0);
-    EXPECT_EQ(C().Combo2.Text(), " - ");
+// The currencies of Form25 in their records, the Dollar's never written.
+void ScriviValute(ValuteTest& t) {
+    for (const Riga25& r : Righe25)
+        if (r.record != 12) t.ScriviValuta(r.record, r.nome, r.paese, r.cambio);
 }
 
-TEST_F(ConvertoreTest, LeRigheSonoInOrdineAlfabeticoConIlNomeEIlPaese) {
-    for (const Riga25& r : Righe25)
-        ScriviValuta(r.record, r.nome, r.paese, r.cambio);
-    C().S.Show();
-    EXPECT_EQ(C().Combo1.Righe(), (std::vector<std::string>{
-                                      "Dollaro - USA",
-                                      "Escudo - Portogallo",
-                                      "Euro - Unione Europea",
-                                      "Fiorino - Olanada",
-                                      "Franco - Belgio",
-                                      "Franco - Francia",
-                                      "Franco - Lussemburgo",
-                                      "Lira - Italia",
-                                      "Marco - Finlandia",
-                                      "Marco - Germania",
-                                      "Peseta - Spagna",
-                                      "Scellino - Austria",
-                                      "Sterlina - Gran Bretagna",
-                                      "Sterlina - Irlanda",
-                                      "Yen - Giappone",
-                                  }));
-}
-
-struct CasoConversione {
-    const char* nome;
-    const char* importo;
-    const char* da;
-    const char* a;
-    const char* euro; // "" when nothing is computed
-    const char* risultato;
-};
-
-TEST_F(ConvertoreTest, ConverteAttraversoLEuro) {
-    for (const Riga25& r : Righe25)
-        ScriviValuta(r.record, r.nome, r.paese, r.cambio);
-    ScriviValuta(12, "", "", 0); // the Dollar's record back to never written
-    // 1936270 / 1936.27 = 1000; 1000 * 1.95583 = 1955.83. 655.957 / 6.55957 = 100;
-    // 100 * 40.3399 = 4033.99 (Belgium's, not the first Franco's).
-    const CasoConversione casi[] = {
-        {"lire into marks", "1.936.270", "Lira - Italia", "Marco - Germania", "1000", "1955,83"},
+TEST_F(ValuteTest, IlConvertitorePassaPerLEuro) {
+    ScriviValute(*this);
+    struct Caso {
+        const char *nome, *importo, *da, *a;
+        const char* euro; // "" when nothing is computed
+        const char* risultato;
+    };
+    // 655.957 / 6.55957 = 100; 100 * 40.3399 = 4033.99 (Belgium's, not the first Franco's).
+    // 1936270 / 1936.27 = 1000.
+    const Caso casi[] = {
         {"French francs into Belgian ones", "655,957", "Franco - Francia", "Franco - Belgio", "100",
          "4033,99"},
-        {"euro into lire", "100", "Euro - Unione Europea", "Lira - Italia", "100", "193627"},
         {"into a currency never written", "1.936.270", "Lira - Italia", " - ", "1000", "0"},
         {"nothing typed", "", "Lira - Italia", "Marco - Germania", "", ""},
     };
-    for (const CasoConversione& caso : casi) {
+    Convertore& c = app->Convertore;
+    for (const Caso& caso : casi) {
         SCOPED_TRACE(caso.nome);
-        C().S.UnloadMe();
-        C().S.Show();
-        C().ImDa.SetText(caso.importo);
-        Scegli(C().Combo1, caso.da);
-        Scegli(C().Combo2, caso.a);
-        EXPECT_TRUE(EseguiEvento([&] { C().SSCommand1.Clicca(); }));
-        EXPECT_EQ(C().Euros.Text(), caso.euro);
-        EXPECT_EQ(C().ImA.Text(), caso.risultato);
+        c.S.UnloadMe();
+        c.S.Show();
+        c.ImDa.SetText(caso.importo);
+        Seleziona(c.Combo1, caso.da);
+        Seleziona(c.Combo2, caso.a);
+        EXPECT_TRUE(Clic(c.SSCommand1));
+        EXPECT_EQ(c.Euros.Text(), caso.euro);
+        EXPECT_EQ(c.ImA.Text(), caso.risultato);
     }
-}
-
-TEST_F(ConvertoreTest, DaUnaValutaSenzaTassoEUnaDivisionePerZero) {
-    ScriviValuta(7, "Lira", "Italia", 1936.27);
-    C().S.Show();
-    C().ImDa.SetText("100");
-    Scegli(C().Combo1, " - ");
-    Scegli(C().Combo2, "Lira - Italia");
-    EXPECT_FALSE(EseguiEvento([&] { C().SSCommand1.Clicca(); }));
-    EXPECT_EQ(Messaggi(), std::vector<std::string>{"FAILURE 11 Divisione per zero"});
-    EXPECT_EQ(C().ImA.Text(), "");
 }
 
 TEST_F(ValuteTest, LImportoDigitatoSiMemorizzaInEuroDivisoPerIlCambioInUso) {
@@ -258,9 +154,7 @@ TEST_F(ValuteTest, LImportoDigitatoSiMemorizzaInEuroDivisoPerIlCambioInUso) {
 }
 
 TEST_F(ValuteTest, LaRicercaConfrontaNomeEPaeseENonTrovaLeRigheMaiScritte) {
-    for (const Riga25& r : Righe25)
-        ScriviValuta(r.record, r.nome, r.paese, r.cambio);
-    ScriviValuta(12, "", "", 0);
+    ScriviValute(*this);
     LeggiTabellaValute();
     const std::pair<const char*, short> casi[] = {
         {"-", 0}, // the trimmed line of a record never written

@@ -5,7 +5,6 @@
 #include "ui/Legatore.h"
 
 #include <QApplication>
-#include <QDate>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -58,76 +57,44 @@ struct PiattaformaQtTest : testing::Test {
     void TearDown() override { ImpostaPiattaforma(nullptr); }
 };
 
-TEST_F(PiattaformaQtTest, PulsantiDiOgniInsiemeInOrdineConIlPredefinito) {
-    struct Caso {
-        Pulsanti insieme;
-        int predefinito;
-        std::vector<std::string> pulsanti;
-        std::string atteso, premuto;
-        Risposta risposta;
-    };
-    const Caso casi[] = {
-        {Pulsanti::OK, 0, {"OK"}, "OK", "OK", Risposta::OK},
-        {Pulsanti::OKAnnulla, 1, {"OK", "Annulla"}, "Annulla", "OK", Risposta::OK},
-        {Pulsanti::OKAnnulla, 1, {"OK", "Annulla"}, "Annulla", "Annulla", Risposta::Annulla},
-        {Pulsanti::InterrompiRiprovaIgnora,
-         1,
-         {"Interrompi", "Riprova", "Ignora"},
-         "Riprova",
-         "Ignora",
-         Risposta::Ignora},
-        {Pulsanti::SiNoAnnulla, 2, {"Sì", "No", "Annulla"}, "Annulla", "No", Risposta::No},
-        {Pulsanti::SiNo, 0, {"Sì", "No"}, "Sì", "Sì", Risposta::Si},
-        {Pulsanti::RiprovaAnnulla,
-         0,
-         {"Riprova", "Annulla"},
-         "Riprova",
-         "Annulla",
-         Risposta::Annulla},
-    };
-    for (const Caso& caso : casi) {
-        SCOPED_TRACE(caso.premuto + " of " + caso.pulsanti.front());
-        visti.clear();
-        daPremere = caso.premuto;
-        EXPECT_EQ(porta.MsgBox("Sei Sicuro di Voler Uscire?", "AVVERTIMENTO!", Icona::Esclamazione,
-                               caso.insieme, caso.predefinito),
-                  caso.risposta);
-        ASSERT_EQ(visti.size(), 1u);
-        EXPECT_EQ(visti[0].pulsanti, caso.pulsanti);
-        EXPECT_EQ(visti[0].predefinito, caso.atteso);
-    }
-}
-
-TEST_F(PiattaformaQtTest, TitoloTestoEIcona) {
+TEST_F(PiattaformaQtTest, IconaPulsantiInOrdinePredefinitoEdEsc) {
     struct Caso {
         Icona icona;
         QMessageBox::Icon qt;
+        Pulsanti insieme;
+        int predefinito;
+        std::vector<std::string> pulsanti;
+        std::string atteso, uscita, premuto; // uscita: the Escape button, "" not looked at
+        Risposta risposta;
     };
-    for (const Caso& caso : {Caso{Icona::Critica, QMessageBox::Critical},
-                             Caso{Icona::Esclamazione, QMessageBox::Warning},
-                             Caso{Icona::Domanda, QMessageBox::Question},
-                             Caso{Icona::Informazione, QMessageBox::Information},
-                             Caso{Icona::Nessuna, QMessageBox::NoIcon}}) {
+    const Caso casi[] = {
+        {Icona::Informazione, QMessageBox::Information, Pulsanti::OK, 0, {"OK"}, "OK", "OK", "OK",
+         Risposta::OK},
+        {Icona::Esclamazione, QMessageBox::Warning, Pulsanti::OKAnnulla, 1, {"OK", "Annulla"},
+         "Annulla", "Annulla", "OK", Risposta::OK},
+        {Icona::Critica, QMessageBox::Critical, Pulsanti::InterrompiRiprovaIgnora, 1,
+         {"Interrompi", "Riprova", "Ignora"}, "Riprova", "", "Ignora", Risposta::Ignora},
+        {Icona::Domanda, QMessageBox::Question, Pulsanti::SiNoAnnulla, 0, {"Sì", "No", "Annulla"},
+         "Sì", "Annulla", "No", Risposta::No},
+        {Icona::Nessuna, QMessageBox::NoIcon, Pulsanti::SiNo, 0, {"Sì", "No"}, "Sì", "", "Sì",
+         Risposta::Si},
+        {Icona::Esclamazione, QMessageBox::Warning, Pulsanti::RiprovaAnnulla, 0,
+         {"Riprova", "Annulla"}, "Riprova", "", "Annulla", Risposta::Annulla},
+    };
+    for (const Caso& caso : casi) {
         visti.clear();
-        daPremere = "OK";
-        porta.MsgBox("il nr. di conto non esiste. ricontrollare i dati inseriti", "ATTENZIONE!",
-                     caso.icona, Pulsanti::OK, 0);
+        daPremere = caso.premuto;
+        EXPECT_EQ(porta.MsgBox("il nr. di conto non esiste.", "ATTENZIONE!", caso.icona,
+                               caso.insieme, caso.predefinito),
+                  caso.risposta);
         ASSERT_EQ(visti.size(), 1u);
-        EXPECT_EQ(visti[0].titolo, "ATTENZIONE!");
-        EXPECT_EQ(visti[0].testo, "il nr. di conto non esiste. ricontrollare i dati inseriti");
-        EXPECT_EQ(visti[0].icona, caso.qt);
+        const Riquadro& r = visti[0];
+        EXPECT_EQ(r.titolo + "|" + r.testo, "ATTENZIONE!|il nr. di conto non esiste.");
+        EXPECT_EQ(r.icona, caso.qt);
+        EXPECT_EQ(r.pulsanti, caso.pulsanti);
+        EXPECT_EQ(r.predefinito, caso.atteso);
+        if (!caso.uscita.empty()) EXPECT_EQ(r.uscita, caso.uscita);
     }
-}
-
-TEST_F(PiattaformaQtTest, EscVuolDireAnnullaQuandoCE) {
-    daPremere = "OK";
-    porta.MsgBox("?", "Attenzione", Icona::Esclamazione, Pulsanti::OKAnnulla, 1);
-    porta.MsgBox("?", "Attenzione", Icona::Esclamazione, Pulsanti::SiNoAnnulla, 0);
-    porta.MsgBox("?", "Attenzione", Icona::Informazione, Pulsanti::OK, 0);
-    ASSERT_EQ(visti.size(), 3u);
-    EXPECT_EQ(visti[0].uscita, "Annulla");
-    EXPECT_EQ(visti[1].uscita, "Annulla");
-    EXPECT_EQ(visti[2].uscita, "OK");
 }
 
 TEST_F(PiattaformaQtTest, SenzaRispostaPreparataIlRiquadroAttendeLUtente) {
@@ -165,14 +132,6 @@ TEST_F(PiattaformaQtTest, LaClessidraNonSiAccumula) {
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     porta.Clessidra(false);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
-TEST_F(PiattaformaQtTest, OggiEUnita) {
-    DataCivile oggi = porta.Oggi();
-    QDate data = QDate::currentDate();
-    EXPECT_EQ(QDate(oggi.anno, oggi.mese, oggi.giorno), data);
-    auto unita = porta.Unita();
-    EXPECT_NE(std::find(unita.begin(), unita.end(), "/"), unita.end());
 }
 
 // A screen shown only modally, with its form under tests/ui/forms.
@@ -227,27 +186,23 @@ TEST_F(Modale, IlChiamanteAttendeFinCheLoSchermoSiNasconde) {
     m.S.UnloadMe();
 }
 
-TEST_F(Modale, UnPulsanteCheScaricaIlProprioSchermo) {
+TEST_F(Modale, UnPulsanteOLaChiusuraDellaFinestraScaricanoLoSchermo) {
     m.Chiudi.Click = [this] { m.S.UnloadMe(); };
-    MostraE([this] {
-        QTest::keyClicks(Widget<QLineEdit>("Nome"), "abc");
-        QTest::mouseClick(Widget<QPushButton>("Chiudi"), Qt::LeftButton);
-    });
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(passi, (std::vector<std::string>{"modale", "ritorno"}));
-    EXPECT_EQ(m.S.Stato(), StatoSchermo::Scaricato);
-    EXPECT_EQ(m.Nome.Text(), "");
-    EXPECT_EQ(Finestra(), nullptr);
-}
-
-TEST_F(Modale, ChiudereLaFinestraScaricaLoSchermo) {
-    int scaricamenti = 0;
-    m.S.Unload = [&] { ++scaricamenti; };
-    MostraE([this] { Finestra()->close(); });
-    EXPECT_EQ(passi, (std::vector<std::string>{"modale", "ritorno"}));
-    EXPECT_EQ(scaricamenti, 1);
-    EXPECT_EQ(m.S.Stato(), StatoSchermo::Scaricato);
-    EXPECT_EQ(Finestra(), nullptr);
+    for (bool pulsante : {true, false}) {
+        passi.clear();
+        MostraE([this, pulsante] {
+            QTest::keyClicks(Widget<QLineEdit>("Nome"), "abc");
+            if (pulsante)
+                QTest::mouseClick(Widget<QPushButton>("Chiudi"), Qt::LeftButton);
+            else
+                Finestra()->close();
+        });
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(passi, (std::vector<std::string>{"modale", "ritorno"})) << pulsante;
+        EXPECT_EQ(m.S.Stato(), StatoSchermo::Scaricato) << pulsante;
+        EXPECT_EQ(m.Nome.Text(), "") << pulsante;
+        EXPECT_EQ(Finestra(), nullptr) << pulsante;
+    }
 }
 
 TEST_F(Modale, LaFineDelProgrammaSciogliePureLoSchermoModale) {
