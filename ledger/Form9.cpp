@@ -2,6 +2,7 @@
 
 #include "ledger/Cancellazione.h"
 #include "ledger/CaricaConto.h"
+#include "ledger/ElencoMovimenti.h"
 #include "ledger/Form9Rinvii.h"
 #include "ledger/Immissione.h"
 #include "ledger/Registro.h"
@@ -143,6 +144,8 @@ Form9::Form9() {
         }
         DataOper.SetFocus();
         IMPORTO.SetText("");
+        // The movement list, when it is up, follows the account just loaded.
+        if (Stato.ElencoAperto) CostruisciElenco();
     };
 
     // The filter: while Ag is disabled the refill keeps the typed dates.

@@ -24,10 +24,8 @@ Form10::Form10() {
     S.Activate = [this] { Saldi.SetFocus(); };
 }
 
-void MostraSchedaConto(const std::string& numero) {
-    Stato.IndiceConto = CercaConto(numero);
-    const RecConto& conto = Stato.Conti[Stato.IndiceConto];
-    Form10& f = App().Form10;
+namespace {
+void RiempiScheda(Form10& f, const RecConto& conto) {
     f.S.Carica();
     f.CodConto.SetText(Trim(conto.CodConto));
     f.TipoConto.SetText(Trim(conto.TipoConto));
@@ -39,6 +37,13 @@ void MostraSchedaConto(const std::string& numero) {
     f.abi.SetText(Trim(conto.abi));
     f.Fido.SetText(Format(conto.Fido * Stato.Cambio, Stato.FormatoImporti));
     f.Saldi.Enabled = true;
+}
+} // namespace
+
+void MostraSchedaConto(const std::string& numero) {
+    Stato.IndiceConto = CercaConto(numero);
+    Form10& f = App().Form10;
+    RiempiScheda(f, Stato.Conti[Stato.IndiceConto]);
 
     if (Stato.ContoAperto) {
         Form9& e = App().Form9;
@@ -49,6 +54,13 @@ void MostraSchedaConto(const std::string& numero) {
             c->SetText("");
         e.NrOper.SetText(std::to_string(Stato.NumMovimenti));
     }
+    f.S.Show();
+}
+
+void MostraSchedaSolaLettura(short indice) {
+    Form10& f = App().Form10;
+    RiempiScheda(f, Stato.Conti[indice]);
+    Stato.FlagOperazione = 1;
     f.S.Show();
 }
 

@@ -37,6 +37,10 @@ struct Form10 {
 // selection, then shown. An account open in the entry screen gets its entry line emptied.
 void MostraSchedaConto(const std::string& numero);
 
+// The card of the account in slot `indice` of the table, for reading: FlagOperazione is set,
+// so that Conferma only closes it. The selection and the open account stay as they are.
+void MostraSchedaSolaLettura(short indice);
+
 // "Conferma" on the card: the account becomes the open one and the entry screen, coming up,
 // loads it; Form7 and Form10 go away.
 void ApriContoScelto();

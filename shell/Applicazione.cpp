@@ -15,6 +15,7 @@ Applicazione::Applicazione() {
     corrente = this;
     CollegaMenuAnagrafe(MDIForm1);
     CollegaMenuConti(MDIForm1);
+    CollegaMenuMovimenti(MDIForm1);
     CollegaFinestraPrincipale(MDIForm1);
 }
 

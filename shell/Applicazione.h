@@ -1,11 +1,14 @@
 #pragma once
 // Every screen of the program, made once when the program starts. Screens reach each other
 // through App(), as the design's screens call each other by name (App().Form9.DataOper).
+#include "ledger/Form11.h"
+#include "ledger/Form20.h"
 #include "ledger/Form9.h"
 #include "refdata/Convertore.h"
 #include "refdata/FORM12.h"
 #include "refdata/Form10.h"
 #include "refdata/Form2.h"
+#include "refdata/Form22.h"
 #include "refdata/Form25.h"
 #include "refdata/Form6.h"
 #include "refdata/Form7.h"
@@ -25,6 +28,9 @@ struct Applicazione {
     ::ManutCaus ManutCaus;
     ::Form25 Form25;
     ::Convertore Convertore;
+    ::Form11 Form11;
+    ::Form20 Form20;
+    ::Form22 Form22;
 
     Applicazione();
     ~Applicazione();

@@ -48,6 +48,8 @@ struct StatoApplicazione {
     short FlagOperazione = 0;
     // Who called the causale picker FORM12: 1 Form4, 2 Form20, anything else Form9.
     short ChiamanteCausale = 0;
+    // 1 while the list of movements Form11 is up, so that the entry screen refills it.
+    short ElencoAperto = 0;
 };
 
 extern StatoApplicazione Stato;
