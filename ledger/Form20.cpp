@@ -1,5 +1,6 @@
 #include "ledger/Form20.h"
 
+#include "ledger/Immissione.h"
 #include "ledger/Registro.h"
 #include "refdata/Valute.h"
 #include "shell/Applicazione.h"
@@ -14,34 +15,6 @@
 #include <string>
 
 namespace {
-// A required date: the empty mask is refused with the message, a bad date is emptied; a good
-// one is written again as "DD/MM/YYYY". Either failure leaves the focus on the field.
-bool DataAccettata(Controllo& campo, const char* messaggio) {
-    if (DataVuota(campo.Text())) {
-        Piattaforma().Beep();
-        Piattaforma().MsgBox(messaggio, "ERRORE", Icona::Nessuna, Pulsanti::OK, 0);
-        campo.SetFocus();
-        return false;
-    }
-    if (ControllaCampoData(campo)) return true;
-    campo.SetFocus();
-    return false;
-}
-
-// The selection dates of the entry screen can widen the working dates, never narrow them.
-void AllargaDaSelezione() {
-    Form9& e = App().Form9;
-    if (NumeroData(e.DataInizSel.Text()) < NumeroData(Stato.PrimaDataOperazione)) {
-        Stato.PrimaDataOperazione = e.DataInizSel.Text();
-        e.DataInizSel.SetText(Stato.PrimaDataOperazione);
-    }
-    if (NumeroData(e.DataFineSel.Text()) > NumeroData(Stato.UltimaDataOperazione)) {
-        Stato.UltimaDataOperazione = e.DataFineSel.Text();
-        e.DataFineSel.SetText(Stato.UltimaDataOperazione);
-    }
-    App().MDIForm1.UltimaData.SetText(Stato.UltimaDataOperazione);
-}
-
 std::string DescrizioneDi(const Fisso<5>& codice) {
     for (long j = 1; j <= Stato.NumCausali; ++j)
         if (Stato.Causali[j].CodCausale == codice) return Stato.Causali[j].DescCausale;
@@ -112,9 +85,12 @@ void ApriCorrezione() {
 
 void ConfermaCorrezione() {
     Form20& f = App().Form20;
-    if (!DataAccettata(f.DataOper, "Campo data operazione obbligatorio")) return;
-    if (!DataAccettata(f.DataValuta, "Campo data Valuta obbligatorio")) return;
+    if (DataMancante(f.DataOper, "Campo data operazione obbligatorio") || DataErrata(f.DataOper))
+        return;
+    if (DataMancante(f.DataValuta, "Campo data Valuta obbligatorio") || DataErrata(f.DataValuta))
+        return;
     AllargaDaSelezione();
+    App().MDIForm1.UltimaData.SetText(Stato.UltimaDataOperazione);
     if (f.IMPORTO.Text().empty()) {
         Piattaforma().MsgBox("Campo Importo obbligatorio", "", Icona::Nessuna, Pulsanti::OK, 0);
         f.IMPORTO.SetFocus();

@@ -33,22 +33,6 @@ void RiempiMovimento(RecMovimento& m, short numero, double importo) {
     m.D_A = f.D_A.Text();
 }
 
-// A required date of the line left empty: refused, with the focus there.
-bool DataMancante(Controllo& campo, const char* messaggio) {
-    if (!DataVuota(campo.Text())) return false;
-    Piattaforma().Beep();
-    Piattaforma().MsgBox(messaggio, "ERRORE", Icona::Nessuna, Pulsanti::OK, 0);
-    campo.SetFocus();
-    return true;
-}
-
-// A date of the line that isn't one has been emptied, and takes the focus.
-bool DataErrata(Controllo& campo) {
-    if (ControllaCampoData(campo)) return false;
-    campo.SetFocus();
-    return true;
-}
-
 // After a save or a cancelled transfer: an empty line for the next movement.
 void RigaPronta() {
     Form9& f = App().Form9;
@@ -109,14 +93,25 @@ void ControllaCausale() {
     if (RTrim(causale.CodCausale) != "GC") f.D_A.SetText(causale.DareAvere);
 }
 
-void ConfermaMovimento() {
-    Form9& f = App().Form9;
-    if (DataMancante(f.DataOper, "Campo data operazione obbligatorio")) return;
-    if (DataMancante(f.DataValuta, "Campo data Valuta obbligatorio")) return;
-    if (DataErrata(f.DataOper) || DataErrata(f.DataValuta)) return;
-    Piattaforma().Clessidra(true);
+// A required date of the line left empty: refused, with the focus there.
+bool DataMancante(Controllo& campo, const char* messaggio) {
+    if (!DataVuota(campo.Text())) return false;
+    Piattaforma().Beep();
+    Piattaforma().MsgBox(messaggio, "ERRORE", Icona::Nessuna, Pulsanti::OK, 0);
+    campo.SetFocus();
+    return true;
+}
 
+// A date of the line that isn't one has been emptied, and takes the focus.
+bool DataErrata(Controllo& campo) {
+    if (ControllaCampoData(campo)) return false;
+    campo.SetFocus();
+    return true;
+}
+
+void AllargaDaSelezione() {
     // The selection may reach beyond the working dates: they widen, never narrow.
+    Form9& f = App().Form9;
     if (NumeroData(f.DataInizSel.Text()) < NumeroData(Stato.PrimaDataOperazione)) {
         Stato.PrimaDataOperazione = f.DataInizSel.Text();
         f.DataInizSel.SetText(Stato.PrimaDataOperazione);
@@ -126,6 +121,16 @@ void ConfermaMovimento() {
         f.DataFineSel.SetText(Stato.UltimaDataOperazione);
         App().MDIForm1.UltimaData.SetText(Stato.UltimaDataOperazione);
     }
+}
+
+void ConfermaMovimento() {
+    Form9& f = App().Form9;
+    if (DataMancante(f.DataOper, "Campo data operazione obbligatorio")) return;
+    if (DataMancante(f.DataValuta, "Campo data Valuta obbligatorio")) return;
+    if (DataErrata(f.DataOper) || DataErrata(f.DataValuta)) return;
+    Piattaforma().Clessidra(true);
+
+    AllargaDaSelezione();
 
     if (f.IMPORTO.Text().empty()) {
         Piattaforma().MsgBox("Campo Importo obbligatorio", "", Icona::Nessuna, Pulsanti::OK, 0);

@@ -3,11 +3,19 @@
 // (a new movement, or the change of the movement loaded from a list), the load of a movement into
 // the line, and its clearing. While a movement sits in the line for a change (MovimentoCorrente)
 // the working balances leave it out; a save or pulisci puts it back.
+#include "screen/Schermo.h"
 
 // IMPORTO taking the focus: the typed causale looked up in the table. A known code fills the
 // description, Sospeso (unless it reads "N") and D_A (unless the code is "GC"); an unknown one
 // sends the focus back to Causale with a message; an empty one passes.
 void ControllaCausale();
+
+// A required date left empty: the message, and the focus there. True when it was empty.
+bool DataMancante(Controllo& campo, const char* messaggio);
+// A date that isn't one has been emptied and takes the focus. True when it was bad.
+bool DataErrata(Controllo& campo);
+// The selection dates of Form9 widen the working dates, never narrow them.
+void AllargaDaSelezione();
 
 // OK: the dates and the amount checked, then the line stored as a new movement, or over the
 // loaded one.
