@@ -9,20 +9,56 @@
 #include "store/Testo.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
 // The date number as a whole number, as most comparisons of the register take it.
 int NumeroIntero(const std::string& data) { return Intero32(NumeroData(data)); }
 
-// The description of the movement's causale as the list shows it: its first 20 characters, or
-// nothing when no causale has that code.
-std::string DescrizioneInElenco(const Fisso<5>& codice) {
-    for (long j = 1; j <= Stato.NumCausali; ++j) {
-        const RecCausale& causale = Stato.Causali[j];
-        if (causale.CodCausale == codice) return Left(causale.DescCausale, 20);
+// The descriptions of the causali as the list shows them, their first 20 characters, each
+// taken once for a whole refill rather than once a line. The search reads the causali in the
+// same order as a plain scan, from 1, and no further than the first with the code.
+struct DescrizioniInElenco {
+    std::vector<std::pair<Fisso<5>, std::string>> lette;    // causali 1 to lette.size()
+
+    // That of the first causale with the movement's code, or nothing when no causale has it.
+    std::string_view Di(const Fisso<5>& codice) {
+        for (const auto& [codiceCausale, descrizione] : lette)
+            if (codiceCausale == codice) return descrizione;
+        for (long j = static_cast<long>(lette.size()) + 1; j <= Stato.NumCausali; ++j) {
+            const RecCausale& causale = Stato.Causali[j];
+            lette.emplace_back(causale.CodCausale, Left(causale.DescCausale, 20));
+            if (lette.back().first == codice) return lette.back().second;
+        }
+        return {};
     }
-    return "";
+};
+
+std::string Riga(const RecMovimento& m, const std::string& dataChiave, bool marcaAnnullato,
+                 DescrizioniInElenco& descrizioni) {
+    std::string riga = Str(NumeroIntero(dataChiave));
+    riga.reserve(120);
+    riga += "  ";
+    riga += m.DataOper.Vista();
+    riga += ' ';
+    riga += m.DataValuta.Vista();
+    riga += ' ';
+    riga += Format(m.NrOper, "0000");
+    riga += ' ';
+    riga += descrizioni.Di(m.Causale);
+    riga += "  ";
+    riga += m.Sospeso.Vista();
+    riga += "   ";
+    riga += m.D_A.Vista();
+    riga += "  ";
+    riga += AllineaDestra(Trim(m.NrDoc), 8);
+    riga += ' ';
+    riga += AllineaDestra(Format(m.IMPORTO * Stato.Cambio, Stato.FormatoImporti), 15);
+    if (marcaAnnullato) riga += " *";
+    if (m.Sospeso == "N") riga += " *";
+    return riga;
 }
 
 // One movement's effect on the four balances; `quota` carries the sign.
@@ -70,6 +106,7 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
         altra.Visible = false;
     };
     try {
+        DescrizioniInElenco descrizioni;
         long da = 0, a = 0;
         for (long i = 1; i <= Stato.NumMovimenti; ++i) {
             const RecMovimento& m = Stato.Movimenti[i];
@@ -79,7 +116,8 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
                 a = GiornoCalendario(fine);
             }
             if (giorno >= da && giorno <= a)
-                righe.push_back(RigaElenco(m, m.*data, marcaAnnullato && m.Annullato == "S"));
+                righe.push_back(Riga(m, m.*data, marcaAnnullato && m.Annullato == "S",
+                                     descrizioni));
         }
     } catch (...) {
         consegna();
@@ -91,27 +129,8 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
 
 std::string RigaElenco(const RecMovimento& m, const std::string& dataChiave,
                        bool marcaAnnullato) {
-    std::string riga = Str(NumeroIntero(dataChiave));
-    riga.reserve(120);
-    riga += "  ";
-    riga += m.DataOper.Testo();
-    riga += ' ';
-    riga += m.DataValuta.Testo();
-    riga += ' ';
-    riga += Format(m.NrOper, "0000");
-    riga += ' ';
-    riga += DescrizioneInElenco(m.Causale);
-    riga += "  ";
-    riga += m.Sospeso.Testo();
-    riga += "   ";
-    riga += m.D_A.Testo();
-    riga += "  ";
-    riga += AllineaDestra(Trim(m.NrDoc), 8);
-    riga += ' ';
-    riga += AllineaDestra(Format(m.IMPORTO * Stato.Cambio, Stato.FormatoImporti), 15);
-    if (marcaAnnullato) riga += " *";
-    if (m.Sospeso == "N") riga += " *";
-    return riga;
+    DescrizioniInElenco descrizioni;
+    return Riga(m, dataChiave, marcaAnnullato, descrizioni);
 }
 
 int NumeroDaRiga(const std::string& riga) {
@@ -119,8 +138,11 @@ int NumeroDaRiga(const std::string& riga) {
     // as ScriviOrd does for every line at each new movement.
     constexpr std::size_t Inizio = 31, Cifre = 4;
     bool semplice = riga.size() >= Inizio + Cifre;
-    for (std::size_t i = 0; semplice && i < Inizio; ++i)
-        semplice = static_cast<unsigned char>(riga[i]) < 0x80;
+    if (semplice) {
+        unsigned char bitAlti = 0;
+        for (std::size_t i = 0; i < Inizio; ++i) bitAlti |= static_cast<unsigned char>(riga[i]);
+        semplice = bitAlti < 0x80;
+    }
     for (std::size_t i = Inizio; semplice && i < Inizio + Cifre; ++i)
         semplice = riga[i] >= '0' && riga[i] <= '9';
     if (!semplice) return static_cast<int>(Val(Mid(riga, 32, 4)));

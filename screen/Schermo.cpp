@@ -4,6 +4,8 @@
 #include "store/Piattaforma.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <iterator>
 
 namespace {
@@ -13,14 +15,70 @@ std::vector<Schermo*>& registro() {
 }
 Schermo* attivo = nullptr;
 
-// The sorted lists compare lines as text without regard to case.
+// The sorted lists compare lines as text without regard to case. Equal bytes are equal
+// letters, so the common head of two lines is skipped eight bytes at a time; the case matters
+// only from the first byte that differs.
 bool Precede(const std::string& a, const std::string& b) {
-    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                        [](unsigned char x, unsigned char y) {
-                                            if (x >= 'A' && x <= 'Z') x += 32;
-                                            if (y >= 'A' && y <= 'Z') y += 32;
-                                            return x < y;
-                                        });
+    const std::size_t n = std::min(a.size(), b.size());
+    std::size_t i = 0;
+    for (; i + 8 <= n; i += 8) {
+        std::uint64_t x, y;
+        std::memcpy(&x, a.data() + i, 8);
+        std::memcpy(&y, b.data() + i, 8);
+        if (x != y) break;
+    }
+    for (; i < n; ++i) {
+        auto x = static_cast<unsigned char>(a[i]), y = static_cast<unsigned char>(b[i]);
+        if (x == y) continue;
+        if (x >= 'A' && x <= 'Z') x += 32;
+        if (y >= 'A' && y <= 'Z') y += 32;
+        if (x != y) return x < y;
+    }
+    return a.size() < b.size();
+}
+
+// Eight bytes of a line from `da`, zeros past its end, the letters A to Z in lower case, as a
+// number whose order is that of the bytes.
+std::uint64_t Parola(const std::string& riga, std::size_t da) {
+    unsigned char byte[8] = {};
+    if (da < riga.size())
+        std::memcpy(byte, riga.data() + da, std::min<std::size_t>(8, riga.size() - da));
+    std::uint64_t x = 0;
+    for (unsigned char b : byte) x = x << 8 | b;
+    // All eight at once: among the bytes below 0x80, the high bit of these sums marks those
+    // from "A" up and those above "Z"; the ones in between get 0x20.
+    constexpr std::uint64_t Alti = 0x8080808080808080u, Bassi = 0x7F7F7F7F7F7F7F7Fu;
+    std::uint64_t sette = x & Bassi;
+    std::uint64_t daA = sette + 0x3F3F3F3F3F3F3F3Fu, oltreZ = sette + 0x2525252525252525u;
+    return x | ((daA ^ oltreZ) & ~x & Alti) >> 2;
+}
+
+// The lines in the order of Precede, equal ones in the order they came: a refill sorts
+// thousands. The sort moves the heads of the lines, their first 40 bytes as five such numbers,
+// so that heads in order are lines in order; only lines with the same head are compared whole,
+// which the register's lines never are, their number being within.
+void Ordina(std::vector<std::string>& righe) {
+    constexpr std::size_t Parole = 5;
+    struct Voce {
+        std::uint64_t testa[Parole];
+        std::size_t posto;
+    };
+    std::vector<Voce> voci(righe.size());
+    for (std::size_t i = 0; i < righe.size(); ++i) {
+        for (std::size_t p = 0; p < Parole; ++p) voci[i].testa[p] = Parola(righe[i], 8 * p);
+        voci[i].posto = i;
+    }
+    std::sort(voci.begin(), voci.end(), [&righe](const Voce& a, const Voce& b) {
+        for (std::size_t p = 0; p < Parole; ++p)
+            if (a.testa[p] != b.testa[p]) return a.testa[p] < b.testa[p];
+        if (Precede(righe[a.posto], righe[b.posto])) return true;
+        if (Precede(righe[b.posto], righe[a.posto])) return false;
+        return a.posto < b.posto;
+    });
+    std::vector<std::string> ordinate;
+    ordinate.reserve(righe.size());
+    for (const Voce& v : voci) ordinate.push_back(std::move(righe[v.posto]));
+    righe = std::move(ordinate);
 }
 
 bool Modificabile(TipoControllo t) {
@@ -100,7 +158,7 @@ void Controllo::AggiungiRighe(std::vector<std::string> righe) {
         return;
     }
     // A line added later goes after the equal ones already there, as AddItem puts it.
-    std::stable_sort(righe.begin(), righe.end(), Precede);
+    Ordina(righe);
     if (righe_.empty()) {
         righe_ = std::move(righe);
         ++revisione_;

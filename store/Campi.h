@@ -9,44 +9,167 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
+#include <string_view>
+#include <type_traits>
 
 // A text of fixed width: always exactly N characters, held as UTF-8. Assigning copies the text
 // left-justified, cutting a longer one and padding a shorter one with blanks; comparisons see
 // the whole padded text, so whoever compares trims first.
+//
+// The bytes live in the field itself when they fit its room, N bytes or 8 at least: always for
+// plain ASCII, the text of nearly every field. A longer UTF-8 text goes to a block of its own,
+// whose address takes the room. A table of records is then one compact block, filled and copied
+// without a string for every text, which is what the load of an account of 32767 movements
+// mostly did.
 template <std::size_t N> struct Fisso {
-    constexpr Fisso() : testo(N, ' ') {}
-    Fisso(const std::string& s) : testo(Giustifica(s, static_cast<int>(N))) {}
-    Fisso(const char* s) : Fisso(std::string(s)) {}
-    template <std::size_t M> explicit Fisso(const Fisso<M>& altro) : Fisso(altro.Testo()) {}
+    constexpr Fisso() {
+        for (std::size_t k = 0; k < N; ++k) byte_[k] = ' ';
+    }
+    Fisso(const std::string& s) { Assegna(s); }
+    Fisso(const char* s) { Assegna(s); }
+    template <std::size_t M> explicit Fisso(const Fisso<M>& altro) { Assegna(altro.Vista()); }
+    Fisso(const Fisso& altro) { Copia(altro); }
+    constexpr ~Fisso() { Libera(); }
 
-    Fisso& operator=(const std::string& s) {
-        testo = Giustifica(s, static_cast<int>(N));
+    Fisso& operator=(const Fisso& altro) {
+        if (this != &altro) {
+            Libera();
+            Copia(altro);
+        }
         return *this;
     }
-    Fisso& operator=(const char* s) { return *this = std::string(s); }
+    Fisso& operator=(const std::string& s) {
+        Assegna(s);
+        return *this;
+    }
+    Fisso& operator=(const char* s) {
+        Assegna(s);
+        return *this;
+    }
     template <std::size_t M> Fisso& operator=(const Fisso<M>& altro) {
-        return *this = altro.Testo();
+        Assegna(altro.Vista());
+        return *this;
     }
 
-    operator const std::string&() const { return testo; }
-    const std::string& Testo() const { return testo; }
+    operator std::string() const { return std::string(Vista()); }
+    std::string Testo() const { return std::string(Vista()); }
+    // The text without a copy, valid while the field is unchanged.
+    std::string_view Vista() const {
+        return {lunghezza_ <= Stanza ? byte_ : Blocco(), lunghezza_};
+    }
 
-    friend bool operator==(const Fisso& a, const Fisso& b) { return a.testo == b.testo; }
-    friend bool operator==(const Fisso& a, const std::string& b) { return a.testo == b; }
-    friend bool operator==(const Fisso& a, const char* b) { return a.testo == b; }
+    friend bool operator==(const Fisso& a, const Fisso& b) { return a.Vista() == b.Vista(); }
+    friend bool operator==(const Fisso& a, const std::string& b) { return a.Vista() == b; }
+    friend bool operator==(const Fisso& a, const char* b) { return a.Vista() == b; }
 
     // A never-written field holds zero bytes; they read as blanks, so that every reader meets
     // one form of "empty" and the record writes back blank-padded.
     void Decodifica(const unsigned char* byte) {
+        if (AsciiSenzaZeri(byte)) {
+            Libera();
+            std::memcpy(byte_, byte, N);
+            lunghezza_ = N;
+            return;
+        }
         unsigned char letti[N];
-        for (std::size_t k = 0; k < N; ++k) letti[k] = byte[k] == 0 ? ' ' : byte[k];
-        testo = Utf8DaCp1252(letti, N);
+        unsigned char bitAlti = 0;
+        for (std::size_t k = 0; k < N; ++k) {
+            letti[k] = byte[k] == 0 ? ' ' : byte[k];
+            bitAlti |= byte[k];
+        }
+        if (bitAlti < 0x80) {
+            Libera();
+            std::memcpy(byte_, letti, N);
+            lunghezza_ = N;
+        } else {
+            Imposta(Utf8DaCp1252(letti, N));
+        }
     }
-    void Codifica(unsigned char* byte) const { Cp1252DaUtf8(testo, byte, N); }
+    void Codifica(unsigned char* byte) const {
+        // N bytes of ASCII are N characters that the code page holds as they are.
+        if (lunghezza_ == N && SoloAscii(Vista())) std::memcpy(byte, byte_, N);
+        else Cp1252DaUtf8(Vista(), byte, N);
+    }
 
 private:
-    std::string testo;
+    static constexpr std::size_t Stanza = N < sizeof(char*) ? sizeof(char*) : N;
+
+    // Giustifica's cut and padding; on plain ASCII every byte is a character, and the cut
+    // needs no count.
+    void Assegna(std::string_view s) {
+        std::string_view testa = s.substr(0, N);
+        if (SoloAscii(testa)) {
+            Libera();
+            std::memcpy(byte_, testa.data(), testa.size());
+            std::memset(byte_ + testa.size(), ' ', N - testa.size());
+            lunghezza_ = N;
+            return;
+        }
+        Imposta(Giustifica(std::string(s), static_cast<int>(N)));
+    }
+    // Eight bytes at a time: a high bit marks a byte above 0x7F, and in (b - 1) | b also a
+    // byte 0, which is the only one to borrow from the next.
+    static constexpr std::uint64_t Uni = 0x0101010101010101u, Alti = 0x8080808080808080u;
+    static bool SoloAscii(std::string_view s) {
+        std::uint64_t bit = 0;
+        std::size_t k = 0;
+        for (std::uint64_t x; k + 8 <= s.size(); k += 8) {
+            std::memcpy(&x, s.data() + k, 8);
+            bit |= x;
+        }
+        for (; k < s.size(); ++k) bit |= static_cast<unsigned char>(s[k]);
+        return (bit & Alti) == 0;
+    }
+    static bool AsciiSenzaZeri(const unsigned char* byte) {
+        std::uint64_t bit = 0;
+        std::size_t k = 0;
+        for (std::uint64_t x; k + 8 <= N; k += 8) {
+            std::memcpy(&x, byte + k, 8);
+            bit |= (x - Uni) | x;
+        }
+        for (; k < N; ++k) bit |= static_cast<unsigned char>((byte[k] - 1) | byte[k]);
+        return (bit & Alti) == 0;
+    }
+
+    // The text as it stands, in the room or in a block of its own. It is copied before the
+    // old block goes, as it may lie there.
+    void Imposta(std::string_view testo) {
+        if (testo.size() > Stanza) {
+            char* blocco = new char[testo.size()];
+            std::memcpy(blocco, testo.data(), testo.size());
+            Libera();
+            std::memcpy(byte_, &blocco, sizeof blocco);
+        } else {
+            char copia[Stanza];
+            std::memcpy(copia, testo.data(), testo.size());
+            Libera();
+            std::memcpy(byte_, copia, testo.size());
+        }
+        lunghezza_ = static_cast<TipoLunghezza>(testo.size());
+    }
+    void Copia(const Fisso& altro) {
+        if (altro.lunghezza_ > Stanza) {
+            Imposta(altro.Vista());
+            return;
+        }
+        std::memcpy(byte_, altro.byte_, Stanza);
+        lunghezza_ = altro.lunghezza_;
+    }
+    constexpr void Libera() {
+        if (lunghezza_ > Stanza) delete[] Blocco();
+        lunghezza_ = N;
+    }
+    char* Blocco() const {
+        char* blocco;
+        std::memcpy(&blocco, byte_, sizeof blocco);
+        return blocco;
+    }
+
+    using TipoLunghezza = std::conditional_t<(4 * N < 256), std::uint8_t, std::uint16_t>;
+    char byte_[Stanza] = {};
+    TipoLunghezza lunghezza_ = N;
 };
 
 template <std::size_t N> constexpr std::size_t LarghezzaCampo(const Fisso<N>&) { return N; }

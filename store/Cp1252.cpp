@@ -27,7 +27,7 @@ void AggiungiUtf8(std::string& testo, char32_t c) {
 
 // Reads one character at `i` and moves past it. An invalid sequence yields -1 and moves on by
 // one byte, so that each stray byte becomes one "?".
-long LeggiUtf8(const std::string& testo, std::size_t& i) {
+long LeggiUtf8(std::string_view testo, std::size_t& i) {
     const auto byte = [&](std::size_t k) { return static_cast<unsigned char>(testo[k]); };
     unsigned char primo = byte(i);
     if (primo < 0x80) {
@@ -88,7 +88,7 @@ std::string Utf8DaCp1252(const unsigned char* byte, std::size_t quanti) {
     return testo;
 }
 
-void Cp1252DaUtf8(const std::string& testo, unsigned char* byte, std::size_t quanti) {
+void Cp1252DaUtf8(std::string_view testo, unsigned char* byte, std::size_t quanti) {
     std::size_t i = 0;
     std::size_t scritti = 0;
     while (scritti < quanti && i < testo.size()) {

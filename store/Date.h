@@ -9,6 +9,9 @@
 // pieces are the leading numbers of characters 1-2, 4-5 (3-4 when character 3 isn't "/") and the
 // last four. Failure 6 when the number doesn't fit a float.
 float NumeroData(const std::string& testo);
+// The same reading for any text, step by step; NumeroData goes straight to the numbers of a
+// plain "DD/MM/YYYY" and comes here for the rest.
+float NumeroDataGenerale(const std::string& testo);
 
 bool Bisestile(int anno);
 
@@ -35,6 +38,9 @@ bool DataVuota(const std::string& testo);    // exactly "__/__/____"
 // two digits is 1930 to 2029). A date that doesn't exist, or a text that is no date, is
 // failure 13.
 long GiornoCalendario(const std::string& testo);
+// The same for any text; GiornoCalendario takes a plain "DD/MM/YYYY" straight, and the rest
+// here.
+long GiornoCalendarioGenerale(const std::string& testo);
 // The date "DD/MM/YYYY" of a day of that count; failure 6 outside the years 100 to 9999.
 std::string TestoDaGiorno(long giorno);
 // Days from a to b: GiornoCalendario(b) - GiornoCalendario(a).

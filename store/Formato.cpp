@@ -3,8 +3,10 @@
 #include "store/Guasto.h"
 #include "store/Testo.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <system_error>
 #include <vector>
 
@@ -24,6 +26,11 @@ struct Sezione {
     int postiInteri = 0;
     int postiDecimali = 0;
     int primoZero = -1;       // the integer place of the leftmost "0": digits shown from there
+    size_t letterali = 0;     // the characters of all the literals
+    bool punto = false;
+    int ultimoZeroDecimale = -1;    // the decimal place of the rightmost "0"
+    // Digit places and the point only, as the amounts have: the digits in a row.
+    bool semplice = false;
 };
 
 // The sections of a pattern split at ";", outside quotes and escapes.
@@ -68,6 +75,7 @@ Sezione LeggiSezione(const std::string& testo) {
             sezione.scala += virgoleInAttesa;
             virgoleInAttesa = 0;
         }
+        sezione.letterali += letterale.size();
         if (!sezione.pezzi.empty() && segno == Segno::Letterale &&
             sezione.pezzi.back().segno == Segno::Letterale) {
             sezione.pezzi.back().testo += letterale;
@@ -104,11 +112,33 @@ Sezione LeggiSezione(const std::string& testo) {
         }
     }
     if (!decimali) sezione.scala += virgoleInAttesa;
+    sezione.punto = decimali;
+    int k = 0;
+    bool letterale = false, dopoPunto = false;
+    for (const Pezzo& p : sezione.pezzi) {
+        letterale = letterale || p.segno == Segno::Letterale;
+        if (p.segno == Segno::Punto) dopoPunto = true;
+        if (!dopoPunto || !PostoCifra(p.segno)) continue;
+        if (p.segno == Segno::Zero) sezione.ultimoZeroDecimale = k;
+        ++k;
+    }
+    sezione.semplice = !letterale && (sezione.postiInteri > 0 || sezione.punto);
     return sezione;
 }
 
 // |valore| / 1000^scala * 10^decimali, rounded half away from zero, as a string of digits.
 std::string CifreArrotondate(double valore, int scala, int decimali) {
+    // A whole number below 10^15, unscaled, is its digits and the zeros of the decimals: so
+    // the steps below make it too, save a leading zero.
+    const double assoluto = std::fabs(valore);
+    const auto intero = assoluto < 1e15 ? static_cast<std::uint64_t>(assoluto) : 0;
+    if (scala == 0 && assoluto < 1e15 && static_cast<double>(intero) == assoluto) {
+        char buffer[24];
+        auto [fine, ec] = std::to_chars(buffer, buffer + sizeof buffer, intero);
+        std::string cifre(buffer, fine);
+        cifre.append(static_cast<size_t>(decimali), '0');
+        return cifre;
+    }
     Cifre15 c = Arrotonda15(valore);
     int spostamento = c.esponente - 3 * scala - 14 + decimali;
     if (spostamento >= 0) return c.cifre + std::string(static_cast<size_t>(spostamento), '0');
@@ -124,57 +154,115 @@ std::string CifreArrotondate(double valore, int scala, int decimali) {
     return cifre;
 }
 
+// The integer digits of a number, `zeri` zeros ahead of the first `n - zeri` of `cifre`.
+struct Interi {
+    const char* cifre;
+    int n, zeri;
+    bool migliaia;
+
+    // Those from place `da` down to place `a`, counted from the right from 0, each followed by
+    // the "." of the thousands where one falls.
+    char* Scrivi(char* uscita, int da, int a) const {
+        // Copies the compiler can keep in registers: the stores below may touch any char.
+        const char* sorgente = cifre;
+        const int ultimo = n - 1, primaCifra = zeri;
+        const bool punti = migliaia;
+        for (int r = da; r >= a; --r) {
+            const int i = ultimo - r;
+            *uscita++ = i < primaCifra ? '0' : sorgente[i - primaCifra];
+            if (punti && r > 0 && r % 3 == 0) *uscita++ = '.';
+        }
+        return uscita;
+    }
+};
+
 std::string Applica(const Sezione& sezione, double valore) {
     std::string cifre = CifreArrotondate(valore, sezione.scala, sezione.postiDecimali);
-    size_t d = static_cast<size_t>(sezione.postiDecimali);
+    const size_t d = static_cast<size_t>(sezione.postiDecimali);
     if (cifre.size() < d) cifre.insert(0, d - cifre.size(), '0');
-    std::string interi = cifre.substr(0, cifre.size() - d);
-    std::string decimali = cifre.substr(cifre.size() - d);
-    interi.erase(0, interi.find_first_not_of('0'));
+    // The integer digits: those before the decimals from the first that isn't zero, behind the
+    // zeros that the "0" places ask for.
+    const size_t fineInteri = cifre.size() - d;
+    size_t primo = 0;
+    while (primo < fineInteri && cifre[primo] == '0') ++primo;
     size_t minimo = sezione.primoZero < 0 ? 0 : size_t(sezione.postiInteri - sezione.primoZero);
-    if (interi.size() < minimo) interi.insert(0, minimo - interi.size(), '0');
+    const size_t zeri = minimo > fineInteri - primo ? minimo - (fineInteri - primo) : 0;
+    const int n = static_cast<int>(zeri + fineInteri - primo);
+    const char* decimali = cifre.data() + fineInteri;
 
+    // Written in place: each digit once, a "." at most for every third, the "," and the
+    // literals.
+    std::string risultato;
+    risultato.resize(static_cast<size_t>(n + n / 3) + d + 1 + sezione.letterali);
+    char* uscita = risultato.data();
+    const Interi interi{cifre.data() + primo, n, static_cast<int>(zeri), sezione.migliaia};
     // The decimals up to the last "0" place or the last digit that isn't zero are shown.
-    int ultimoDecimale = -1, k = 0;
+    int ultimoDecimale = sezione.ultimoZeroDecimale;
+    for (int k = static_cast<int>(d) - 1; k > ultimoDecimale; --k) {
+        if (decimali[k] != '0') {
+            ultimoDecimale = k;
+            break;
+        }
+    }
+    if (sezione.semplice) {
+        // What the places below give when no literal stands between them.
+        uscita = interi.Scrivi(uscita, n - 1, 0);
+        if (sezione.punto) {
+            *uscita++ = ',';
+            uscita = std::copy(decimali, decimali + ultimoDecimale + 1, uscita);
+        }
+        risultato.resize(static_cast<size_t>(uscita - risultato.data()));
+        return risultato;
+    }
+    int posto = 0;    // integer places met so far
+    int k = 0;
     bool dopoPunto = false;
     for (const Pezzo& p : sezione.pezzi) {
-        if (p.segno == Segno::Punto) dopoPunto = true;
-        if (!dopoPunto || !PostoCifra(p.segno)) continue;
-        if (p.segno == Segno::Zero || decimali[static_cast<size_t>(k)] != '0') ultimoDecimale = k;
-        ++k;
-    }
-
-    const int n = static_cast<int>(interi.size());
-    std::string risultato;
-    auto cifraIntera = [&](int r) {    // r counts from the right, from 0
-        risultato += interi[static_cast<size_t>(n - 1 - r)];
-        if (sezione.migliaia && r > 0 && r % 3 == 0) risultato += '.';
-    };
-    int posto = 0;    // integer places met so far
-    k = 0;
-    dopoPunto = false;
-    for (const Pezzo& p : sezione.pezzi) {
         if (p.segno == Segno::Letterale) {
-            risultato += p.testo;
+            uscita = std::copy(p.testo.begin(), p.testo.end(), uscita);
         } else if (p.segno == Segno::Punto) {
-            if (sezione.postiInteri == 0)
-                for (int r = n - 1; r >= 0; --r) cifraIntera(r);
-            risultato += ',';
+            if (sezione.postiInteri == 0) uscita = interi.Scrivi(uscita, n - 1, 0);
+            *uscita++ = ',';
             dopoPunto = true;
         } else if (dopoPunto) {
-            if (k <= ultimoDecimale) risultato += decimali[static_cast<size_t>(k)];
+            if (k <= ultimoDecimale) *uscita++ = decimali[k];
             ++k;
         } else {
             // The first place takes every digit beyond the places of the pattern.
             int r = sezione.postiInteri - 1 - posto;
-            int da = posto == 0 ? n - 1 : r;
-            for (int q = da; q >= r; --q)
-                if (q < n) cifraIntera(q);
+            uscita = interi.Scrivi(uscita, std::min(posto == 0 ? n - 1 : r, n - 1), r);
             ++posto;
         }
     }
+    risultato.resize(static_cast<size_t>(uscita - risultato.data()));
     return risultato;
 }
+
+struct SezioneLetta {
+    bool vuota;
+    Sezione sezione;
+};
+
+// The sections of a pattern, read once: a list shows thousands of amounts through the same
+// few patterns. The program has one thread; each thread has its own patterns, without a lock.
+const std::vector<SezioneLetta>& ModelloLetto(const std::string& modello) {
+    struct Letto {
+        std::string modello;
+        std::vector<SezioneLetta> sezioni;
+    };
+    // Far more than the program's patterns; a stranger one only starts the cache anew.
+    constexpr std::size_t Massimo = 32;
+    thread_local std::vector<Letto> letti;
+    for (const Letto& l : letti)
+        if (l.modello == modello) return l.sezioni;
+    if (letti.size() == Massimo) letti.clear();
+    Letto nuovo{modello, {}};
+    for (const std::string& testo : Sezioni(modello))
+        nuovo.sezioni.push_back({testo.empty(), LeggiSezione(testo)});
+    letti.push_back(std::move(nuovo));
+    return letti.back().sezioni;
+}
+
 // The pattern of a family for 0 to 4 decimals.
 std::string ConDecimali(std::string interi, int decimali) {
     if (decimali < 0 || decimali > 4) return "";
@@ -192,14 +280,15 @@ std::string Format(double valore, const std::string& modello) {
         return testo;
     }
     if (!std::isfinite(valore)) Errore(6);
-    std::vector<std::string> sezioni = Sezioni(modello);
-    if (valore < 0 && sezioni.size() > 1 && !sezioni[1].empty())
-        return Applica(LeggiSezione(sezioni[1]), valore);
-    if (valore == 0 && sezioni.size() > 2 && !sezioni[2].empty())
-        return Applica(LeggiSezione(sezioni[2]), valore);
+    const std::vector<SezioneLetta>& sezioni = ModelloLetto(modello);
+    if (valore < 0 && sezioni.size() > 1 && !sezioni[1].vuota)
+        return Applica(sezioni[1].sezione, valore);
+    if (valore == 0 && sezioni.size() > 2 && !sezioni[2].vuota)
+        return Applica(sezioni[2].sezione, valore);
     // The sign goes by the value before rounding, so a small negative shows as "-0,00".
-    std::string testo = Applica(LeggiSezione(sezioni[0]), valore);
-    return valore < 0 ? testo.insert(0, 1, '-') : testo;
+    std::string testo = Applica(sezioni[0].sezione, valore);
+    if (valore < 0) testo.insert(0, 1, '-');
+    return testo;
 }
 
 std::string FormatoImportiPerDecimali(int decimali) {

@@ -2,8 +2,10 @@
 
 #include "store/Guasto.h"
 
+#include <bit>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <system_error>
 
@@ -108,16 +110,72 @@ std::string CambiaCaso(const std::string& testo, bool maiuscole) {
     }
     return risultato;
 }
+
+// 10^0 to 10^22, each exact in a double.
+constexpr double PotenzeDieci[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                   1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                   1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+// Arrotonda15's digits without the conversion to text that always works but is slow, for the
+// values that lists show by the thousand: the digits of `intero`, padded to 15; false when the
+// value isn't of the kind.
+//
+// A whole number below 10^15 is its own digits: counters, numbers of movements, dates.
+bool CifreIntere(double assoluto, std::uint64_t& intero) {
+    if (!(assoluto < 1e15)) return false;
+    intero = static_cast<std::uint64_t>(assoluto);
+    return static_cast<double>(intero) == assoluto;
+}
+
+// From 1e-5 to 1e15, amounts and rates: the product by the power of ten that brings the first
+// digit, of power `esponente`, to the 15th place, taken exactly as a sum of two doubles and
+// rounded to a whole number. Within a billionth of a half the rounding is left to the
+// conversion, which rounds a true half to even.
+bool CifreFrazione(double assoluto, std::uint64_t& intero, int& esponente) {
+    if (assoluto < 1e-5 || assoluto >= 1e15) return false;
+    // The decade of the first digit, from the binary exponent: that one or the next. 78913
+    // / 2^18 is log10(2) close enough for the floor of its multiples up to a thousand.
+    int binario = static_cast<int>(std::bit_cast<std::uint64_t>(assoluto) >> 52) - 1023;
+    int e = (binario * 78913) >> 18;
+    double alto = assoluto * PotenzeDieci[14 - e];
+    if (alto >= 1e15) alto = assoluto * PotenzeDieci[14 - ++e];
+    double basso = std::fma(assoluto, PotenzeDieci[14 - e], -alto);
+    auto n = static_cast<std::uint64_t>(alto);
+    double frazione = (alto - static_cast<double>(n)) + basso;
+    if (std::fabs(frazione - 0.5) < 1e-9) return false;
+    if (frazione > 0.5) ++n;
+    if (n < 100000000000000u) return false;
+    // 999999999999999.5 and up round to the next power of ten.
+    if (n == 1000000000000000u) {
+        n /= 10;
+        ++e;
+    }
+    intero = n;
+    esponente = e;
+    return true;
+}
 } // namespace
 
 Cifre15 Arrotonda15(double valore) {
     if (!std::isfinite(valore)) Errore(6);
+    const double assoluto = std::fabs(valore);
     char buffer[32];
-    auto [fine, ec] =
-        std::to_chars(buffer, buffer + sizeof buffer, std::fabs(valore),
-                      std::chars_format::scientific, 14);
-    std::string testo(buffer, fine);    // d.dddddddddddddde±XX
     Cifre15 risultato;
+    std::uint64_t intero = 0;
+    int esponente = 0;
+    const bool perIntero = CifreIntere(assoluto, intero);
+    if (perIntero || CifreFrazione(assoluto, intero, esponente)) {
+        auto [fine, ec] = std::to_chars(buffer, buffer + sizeof buffer, intero);
+        risultato.cifre.assign(buffer, fine);
+        risultato.cifre.resize(15, '0');
+        // A whole number's first digit stands as many places up as it has digits after it.
+        risultato.esponente = perIntero && intero > 0 ? static_cast<int>(fine - buffer) - 1
+                                                     : esponente;
+        return risultato;
+    }
+    auto [fine, ec] = std::to_chars(buffer, buffer + sizeof buffer, assoluto,
+                                    std::chars_format::scientific, 14);
+    std::string testo(buffer, fine);    // d.dddddddddddddde±XX
     risultato.cifre = testo.substr(0, 1) + testo.substr(2, 14);
     risultato.esponente = std::atoi(testo.c_str() + 17);
     if (risultato.cifre.find_first_not_of('0') == std::string::npos) risultato.esponente = 0;
@@ -171,6 +229,13 @@ double Val(const std::string& testo) {
 }
 
 std::string Str(double valore) {
+    std::uint64_t intero = 0;
+    // A whole number: its digits behind the sign, as the steps below would give them.
+    if (CifreIntere(std::fabs(valore), intero)) {
+        char testo[24] = {valore < 0 ? '-' : ' '};
+        auto [fine, ec] = std::to_chars(testo + 1, testo + sizeof testo, intero);
+        return std::string(testo, fine);
+    }
     Cifre15 c = Arrotonda15(valore);
     std::string segno = valore < 0 ? "-" : " ";
     std::string cifre = c.cifre.substr(0, c.cifre.find_last_not_of('0') + 1);
@@ -178,7 +243,7 @@ std::string Str(double valore) {
     int e = c.esponente;
     if (e >= 15 || e < -4) {
         std::string mantissa = cifre.substr(0, 1);
-        if (cifre.size() > 1) mantissa += "." + cifre.substr(1);
+        if (cifre.size() > 1) mantissa.append(1, '.').append(cifre, 1);
         std::string potenza = std::to_string(std::abs(e));
         if (potenza.size() < 2) potenza = "0" + potenza;
         return segno + mantissa + "E" + (e < 0 ? "-" : "+") + potenza;
@@ -199,7 +264,11 @@ std::string RTrim(const std::string& testo) {
     return fine == std::string::npos ? "" : testo.substr(0, fine + 1);
 }
 
-std::string Trim(const std::string& testo) { return LTrim(RTrim(testo)); }
+std::string Trim(const std::string& testo) {
+    size_t inizio = testo.find_first_not_of(' ');
+    if (inizio == std::string::npos) return "";
+    return testo.substr(inizio, testo.find_last_not_of(' ') - inizio + 1);
+}
 
 std::string Left(const std::string& testo, int n) {
     VerificaNonNegativo(n);
@@ -223,6 +292,10 @@ std::string Mid(const std::string& testo, int inizio, int lunghezza) {
 }
 
 int Len(const std::string& testo) {
+    // Plain ASCII, the text of most fields, has a character a byte.
+    unsigned char bitAlti = 0;
+    for (char c : testo) bitAlti |= static_cast<unsigned char>(c);
+    if (bitAlti < 0x80) return static_cast<int>(testo.size());
     int n = 0;
     for (size_t i = 0; i < testo.size(); i += LunghezzaCarattere(testo, i))
         ++n;
@@ -245,5 +318,9 @@ std::string Giustifica(const std::string& testo, int n) {
 
 std::string AllineaDestra(const std::string& testo, int n) {
     int lunghezza = Len(testo);
-    return lunghezza >= n ? testo : Space(n - lunghezza) + testo;
+    if (lunghezza >= n) return testo;
+    std::string colonna;
+    colonna.reserve(static_cast<size_t>(n - lunghezza) + testo.size());
+    colonna.append(static_cast<size_t>(n - lunghezza), ' ').append(testo);
+    return colonna;
 }

@@ -11,11 +11,15 @@
 #include "store/Date.h"
 #include "store/FileRecord.h"
 #include "store/Stato.h"
+#include "tools/Memoria.h"
 
 #include <chrono>
 #include <cstdio>
 #include <string>
 #include <vector>
+
+// Far fewer page faults at the open of a big account; before main, as the state's tables are.
+[[gnu::constructor(101)]] static void Memoria() { PreparaMemoria(); }
 
 namespace {
 constexpr short Pieno = 32767;

@@ -1,8 +1,12 @@
 #include "shell/Applicazione.h"
+#include "tools/Memoria.h"
 #include "ui/Partenza.h"
 #include "ui/PiattaformaQt.h"
 
 #include <QApplication>
+
+// Far fewer page faults at the open of a big account; before main, as the state's tables are.
+[[gnu::constructor(101)]] static void Memoria() { PreparaMemoria(); }
 
 int main(int argc, char* argv[]) {
     QApplication qt(argc, argv);
