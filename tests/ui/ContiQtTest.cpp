@@ -6,6 +6,7 @@
 #include "store/Stato.h"
 #include "ui/Partenza.h"
 #include "ui/PiattaformaQt.h"
+#include "tests/ui/ProgrammaQt.h"
 
 #include <QAction>
 #include <QLabel>
@@ -24,30 +25,7 @@
 
 namespace {
 
-struct ContiQt : testing::Test {
-    QTemporaryDir cartella;
-    Applicazione app;
-    PiattaformaQt porta;
-    std::vector<std::string> riquadri;
-
-    void SetUp() override {
-        ImpostaPiattaforma(&porta);
-        porta.rispondi = [this](QMessageBox& box) -> QAbstractButton* {
-            riquadri.push_back("[" + box.windowTitle().toStdString() + "] " +
-                               box.text().toStdString());
-            return box.defaultButton();
-        };
-        ASSERT_TRUE(cartella.isValid());
-        Parti(cartella.path().toStdString() + "/");
-        ASSERT_NE(porta.FinestraPrincipale(), nullptr);
-        riquadri.clear();
-    }
-    void TearDown() override { ImpostaPiattaforma(nullptr); }
-
-    template <class W> W* In(const Schermo& s, const char* nome) {
-        QWidget* finestra = porta.FinestraDi(s);
-        return finestra ? finestra->findChild<W*>(nome) : nullptr;
-    }
+struct ContiQt : ProgrammaQt {
     template <class W> W* Principale(const char* nome) {
         return porta.FinestraPrincipale()->findChild<W*>(nome);
     }

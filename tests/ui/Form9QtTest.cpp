@@ -6,6 +6,7 @@
 #include "ui/Legatore.h"
 #include "ui/Partenza.h"
 #include "ui/PiattaformaQt.h"
+#include "tests/ui/ProgrammaQt.h"
 
 #include <QDate>
 #include <QLabel>
@@ -24,22 +25,10 @@
 
 namespace {
 
-struct Form9Qt : testing::Test {
-    QTemporaryDir cartella;
-    Applicazione app;
-    PiattaformaQt porta;
-    std::vector<std::string> riquadri;
-
+struct Form9Qt : ProgrammaQt {
     void SetUp() override {
-        ImpostaPiattaforma(&porta);
-        porta.rispondi = [this](QMessageBox& box) -> QAbstractButton* {
-            riquadri.push_back("[" + box.windowTitle().toStdString() + "] " +
-                               box.text().toStdString());
-            return box.defaultButton();
-        };
-        ASSERT_TRUE(cartella.isValid());
-        Parti(cartella.path().toStdString() + "/");
-        ASSERT_NE(porta.FinestraPrincipale(), nullptr);
+        ProgrammaQt::SetUp();
+        if (HasFatalFailure()) return;
         // A causale and an account with no credit line, through their screens' models.
         EventoDaVista([this] {
             app.MDIForm1.GestCaus.Clicca();
@@ -59,12 +48,8 @@ struct Form9Qt : testing::Test {
         });
         riquadri.clear();
     }
-    void TearDown() override { ImpostaPiattaforma(nullptr); }
 
-    template <class W> W* In(const char* nome) {
-        QWidget* finestra = porta.FinestraDi(app.Form9.S);
-        return finestra ? finestra->findChild<W*>(nome) : nullptr;
-    }
+    template <class W> W* In(const char* nome) { return ProgrammaQt::In<W>(app.Form9.S, nome); }
     std::string Pannello(const char* nome) {
         return porta.FinestraPrincipale()->findChild<QLabel*>(nome)->text().toStdString();
     }
