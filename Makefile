@@ -6,6 +6,8 @@ ASAN := build/asan
 DEBS := g++ cmake make libgtest-dev libgmock-dev qt6-base-dev qt6-tools-dev libqt6uitools6 \
         qt6-qpa-plugins libgl1-mesa-dev fonts-liberation xvfb xauth imagemagick
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
+# A compiler cache, where the developer has one, makes rebuilds of other checkouts cheap.
+LAUNCHER := $(if $(shell command -v ccache),-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 
 .PHONY: deps build run test bench clean screenshot
 
@@ -19,7 +21,7 @@ deps:
 	fi
 
 build: deps
-	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release >/dev/null
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release $(LAUNCHER) >/dev/null
 	cmake --build $(BUILD) -j $(JOBS)
 
 run: build
@@ -28,7 +30,7 @@ run: build
 # The unit tests run twice: once in the release build with everything else, and once more under
 # AddressSanitizer and UndefinedBehaviorSanitizer (logic only, no Qt).
 test: build
-	cmake -S . -B $(ASAN) -DCMAKE_BUILD_TYPE=Debug -DMARENDOLA_SANITIZE=ON -DMARENDOLA_QT=OFF >/dev/null
+	cmake -S . -B $(ASAN) $(LAUNCHER) -DCMAKE_BUILD_TYPE=Debug -DMARENDOLA_SANITIZE=ON -DMARENDOLA_QT=OFF >/dev/null
 	cmake --build $(ASAN) -j $(JOBS)
 	cd $(ASAN) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
