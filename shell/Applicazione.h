@@ -1,6 +1,8 @@
 #pragma once
 // Every screen of the program, made once when the program starts. Screens reach each other
 // through App(), as the design's screens call each other by name (App().Form9.DataOper).
+#include "closing/Form18.h"
+#include "closing/Form19.h"
 #include "ledger/Form11.h"
 #include "ledger/Form20.h"
 #include "ledger/Form9.h"
@@ -31,6 +33,8 @@ struct Applicazione {
     ::Form11 Form11;
     ::Form20 Form20;
     ::Form22 Form22;
+    ::Form19 Form19;
+    ::Form18 Form18;
 
     Applicazione();
     ~Applicazione();

@@ -86,6 +86,26 @@ std::vector<std::string> NomiIn(const std::string& directory) {
     return nomi;
 }
 
+long scrittureAlGuasto = 0;
+
+// Counts one write towards the failure the tests asked for.
+void ContaScrittura() {
+    if (scrittureAlGuasto > 0 && --scrittureAlGuasto == 0) Errore(57);
+}
+
+// pwrite of all the bytes, through the counter of the tests.
+void ScriviTutto(int fd, const unsigned char* byte, std::size_t quanti, off_t posizione) {
+    ContaScrittura();
+    std::size_t scritti = 0;
+    while (scritti < quanti) {
+        ssize_t n = pwrite(fd, byte + scritti, quanti - scritti,
+                           posizione + static_cast<off_t>(scritti));
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) ErroreDiSistema();
+        scritti += static_cast<std::size_t>(n);
+    }
+}
+
 int CanaleLibero() {
     for (int canale = PrimoCanale; canale <= UltimoCanale; ++canale) {
         if (canali[static_cast<std::size_t>(canale)].fd < 0) return canale;
@@ -174,15 +194,60 @@ void LeggiByte(unsigned char* byte, std::size_t quanti, long numero, int canale)
 
 void ScriviByte(const unsigned char* byte, std::size_t quanti, long numero, int canale) {
     const Canale& c = CanaleAperto(canale);
-    off_t posizione = Posizione(c, numero);
-    std::size_t scritti = 0;
-    while (scritti < quanti) {
-        ssize_t n = pwrite(c.fd, byte + scritti, quanti - scritti,
-                           posizione + static_cast<off_t>(scritti));
-        if (n < 0 && errno == EINTR) continue;
-        if (n < 0) ErroreDiSistema();
-        scritti += static_cast<std::size_t>(n);
+    ScriviTutto(c.fd, byte, quanti, Posizione(c, numero));
+}
+
+void GuastoAllaScrittura(long n) { scrittureAlGuasto = n; }
+
+void CopiaFile(const std::string& da, const std::string& a, bool suDisco) {
+    int sorgente = open(RisolviNome(da).c_str(), O_RDONLY | O_CLOEXEC);
+    if (sorgente < 0) ErroreDiSistema();
+    // A file copied over itself stays as it is: the truncation would lose it.
+    struct stat origine, arrivo;
+    if (fstat(sorgente, &origine) == 0 && stat(RisolviNome(a).c_str(), &arrivo) == 0 &&
+        origine.st_dev == arrivo.st_dev && origine.st_ino == arrivo.st_ino) {
+        close(sorgente);
+        return;
     }
+    int copia = open(RisolviNome(a).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    if (copia < 0) {
+        int codice = errno;
+        close(sorgente);
+        Errore(codice == ENOENT ? 76 : NumeroDaErrno(codice));
+    }
+    try {
+        unsigned char byte[65536];
+        off_t posizione = 0;
+        for (;;) {
+            ssize_t n = read(sorgente, byte, sizeof byte);
+            if (n < 0 && errno == EINTR) continue;
+            if (n < 0) ErroreDiSistema();
+            if (n == 0) break;
+            ScriviTutto(copia, byte, static_cast<std::size_t>(n), posizione);
+            posizione += n;
+        }
+        if (suDisco && fsync(copia) != 0) ErroreDiSistema();
+    } catch (...) {
+        close(sorgente);
+        close(copia);
+        throw;
+    }
+    close(sorgente);
+    // A full disk may only tell at the close.
+    if (close(copia) != 0) ErroreDiSistema();
+}
+
+void SincronizzaDirectory(const std::string& directory) {
+    int fd = open(directory.empty() ? "." : directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) ErroreDiSistema();
+    int esito = fsync(fd);
+    int codice = errno;
+    close(fd);
+    if (esito != 0) Errore(NumeroDaErrno(codice));
+}
+
+void CancellaFile(const std::string& nome) {
+    if (unlink(RisolviNome(nome).c_str()) != 0) ErroreDiSistema();
 }
 
 short LeggiIntero(long numero, int canale) {

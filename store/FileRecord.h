@@ -108,6 +108,18 @@ template <class F> void ConRecord(const std::string& nome, int lunghezza, int ca
     ChiudiRecord(canale);
 }
 
+// A whole file copied over any file of that name, which is made 0600 when new; a missing source
+// is 53. With `suDisco` the copy has reached the disk when this returns.
+void CopiaFile(const std::string& da, const std::string& a, bool suDisco = false);
+// The names in a directory reach the disk (after new files were made in it).
+void SincronizzaDirectory(const std::string& directory);
+// Deletes a file; a missing one is 53.
+void CancellaFile(const std::string& nome);
+
+// For the tests: the n-th write to a file from now on, records and copies alike, fails as an
+// I/O error (57); 0 lets every write through.
+void GuastoAllaScrittura(long n);
+
 // A bare 16-bit integer on a channel of 2-byte records.
 short LeggiIntero(long numero, int canale);
 void ScriviIntero(short valore, long numero, int canale);
