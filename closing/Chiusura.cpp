@@ -2,9 +2,9 @@
 
 #include "cheques/ElenchiAssegni.h"
 #include "closing/CopieBak.h"
+#include "ledger/Registro.h"
 #include "refdata/Causali.h"
 #include "refdata/ErroreDisco.h"
-#include "ledger/Registro.h"
 #include "shell/Applicazione.h"
 #include "store/Date.h"
 #include "store/FileRecord.h"
@@ -22,8 +22,8 @@ struct ListaEliminati {
     std::string dataChiusura;
     int pagina = 1;
     int righe = 0;
-    double eliminato = 0;            // ImportoEliminato, in base units
-    std::string descrizione;        // of the last causale found
+    double eliminato = 0;       // ImportoEliminato, in base units
+    std::string descrizione;    // of the last causale found
 };
 
 void TestataEliminati(const ListaEliminati& l) {
@@ -177,7 +177,8 @@ void ChiudiCarnet() {
             RecCarnet& c = Stato.Carnet[i];
             if (c.Chiuso != "N") continue;
             for (long m = 1; m <= Stato.NumMovimenti; ++m)
-                if (Val(Stato.Movimenti[m].NrDoc) == c.NrCarnet) c.MovCosto = Stato.Movimenti[m].NrOper;
+                if (Val(Stato.Movimenti[m].NrDoc) == c.NrCarnet)
+                    c.MovCosto = Stato.Movimenti[m].NrOper;
             ScriviRecord(c, ++n, 1);
         }
         LeggiRecords(Stato.Carnet.righe, 1, n, 1);

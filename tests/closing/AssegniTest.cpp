@@ -126,7 +126,8 @@ TEST_F(AmbienteChiusura, ReorganisationTiesSheetsAgain) {
     ScriviContatore(File(".MOR"), 3);
     for (int k = 1; k <= 10; ++k) Scrivi(File(".FOG"), Stato.Assegni[k], k);
     ScriviContatore(File(".NRF"), 10);
-    for (const char* e : {".Ord", ".TOT", ".NRC", ".CAR", ".RIP"}) Scrivi(File(e), RecRiporto{}, 1);
+    for (const char* e : {".Ord", ".TOT", ".NRC", ".CAR", ".RIP"})
+        Scrivi(File(e), RecRiporto{}, 1);
 
     RiordinaArchivi();
     ASSERT_TRUE(porta.messaggi.empty()) << porta.messaggi.front();
