@@ -1,23 +1,13 @@
 #pragma once
-// What the tests of the close share: a fresh folder that is the current directory, with the data
-// directory "./" and the program directory "prog/", so that "./" + the 10-character stem fills
-// exactly the 12 characters of the owner field of .chi; the headless port with a fixed today;
-// every screen made; files read and written whole.
-#include "screen/PiattaformaSenzaSchermo.h"
-#include "shell/Applicazione.h"
-#include "store/FileRecord.h"
-#include "store/Stato.h"
+// What the tests of the close share: the register's environment with its folder made the
+// current directory, the data directory "./" and the program directory "prog/", so that "./" and
+// the 10-character stem fill exactly the 12 characters of the owner field of .chi; files read
+// and written whole.
+#include "../ledger/AmbienteRegistro.h"
 
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
-#include <memory>
-#include <string>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -37,49 +27,32 @@ inline std::map<std::string, std::string> Cartella(const fs::path& cartella) {
 template <class R> void Scrivi(const std::string& nome, const R& record, long numero) {
     ConRecord(nome, R::Lunghezza, 1, [&] { ScriviRecord(record, numero, 1); });
 }
-template <class R> R Leggi(const std::string& nome, long numero) {
+template <class R> R LeggiUno(const std::string& nome, long numero) {
     R record;
     ConRecord(nome, R::Lunghezza, 1, [&] { LeggiRecord(record, numero, 1); });
     return record;
 }
 
-class AmbienteChiusura : public ::testing::Test {
+class AmbienteChiusura : public AmbienteRegistro {
 protected:
-    PiattaformaSenzaSchermo porta;
-    fs::path dir, prima;
-    std::unique_ptr<Applicazione> app;
+    fs::path prima;
 
     void SetUp() override {
-        char modello[] = "/tmp/chiusuraXXXXXX";
-        dir = mkdtemp(modello);
+        AmbienteRegistro::SetUp();
         prima = fs::current_path();
         fs::current_path(dir);
         fs::create_directory("prog");
-        porta.oggi = DataCivile{5, 7, 2001};
-        ImpostaPiattaforma(&porta);
-        Stato = StatoApplicazione{};
         Stato.PercorsoDati = "./";
         Stato.PercorsoProgramma = "prog/";
         Stato.CodContoAperto = "CONTO12345";
-        Stato.FormatoImporti = "#,###,###,##0.00";
-        Stato.NumCausali = 2;
-        Stato.Causali[1].CodCausale = "VS";
-        Stato.Causali[1].DescCausale = "Versamento contanti in banca";
-        Stato.Causali[2].CodCausale = "PR";
-        Stato.Causali[2].DescCausale = "Prelievo";
-        app = std::make_unique<Applicazione>();
+        Stato.NumConti = 0;
     }
 
     void TearDown() override {
         GuastoAllaScrittura(0);
-        app.reset();
-        ChiudiTutti();
-        ImpostaPiattaforma(nullptr);
         fs::current_path(prima);
-        fs::remove_all(dir);
+        AmbienteRegistro::TearDown();
     }
 
-    static std::string File(const std::string& estensione) {
-        return NomeFileConto(estensione);
-    }
+    static std::string File(const std::string& estensione) { return NomeFileConto(estensione); }
 };

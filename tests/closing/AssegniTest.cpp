@@ -102,15 +102,14 @@ TEST_F(AmbienteChiusura, FinishedBooksAndTheCompactionOfSheets) {
     // sheets 5 to 8 follow at 6 to 9, and sheet 10 at 10.
     const int numeri[] = {1, 2, 3, 4, 4, 5, 6, 7, 8, 10};
     for (int r = 1; r <= 10; ++r)
-        EXPECT_EQ(Leggi<RecAssegno>(File(".FOG"), r).NrAssegno, numeri[r - 1]) << r;
-    EXPECT_EQ(Leggi<RecAssegno>(File(".FOG"), 4).NrMovimento, 2);
-    EXPECT_EQ(Leggi<RecAssegno>(File(".FOG"), 5).NrMovimento, 3);
+        EXPECT_EQ(LeggiUno<RecAssegno>(File(".FOG"), r).NrAssegno, numeri[r - 1]) << r;
+    EXPECT_EQ(LeggiUno<RecAssegno>(File(".FOG"), 4).NrMovimento, 2);
+    EXPECT_EQ(LeggiUno<RecAssegno>(File(".FOG"), 5).NrMovimento, 3);
 }
 
 // Book 2 overlaps book 1 from cheque 8 on; a VS naming cheque 4 comes after its AS; the close's
 // compaction of books takes the cost from the last movement naming the book.
 TEST_F(AmbienteChiusura, ReorganisationTiesSheetsAgain) {
-    fs::create_directory("prog");
     Prepara();
     Stato.NumCarnet = 2;
     Stato.Carnet[2] = Stato.Carnet[1];
@@ -136,7 +135,7 @@ TEST_F(AmbienteChiusura, ReorganisationTiesSheetsAgain) {
     // later of 2 and 3.
     const int movimento[] = {1, 0, 0, 3, 0, 9, 0, 0, 0, 0};
     for (int k = 1; k <= 10; ++k) {
-        RecAssegno a = Leggi<RecAssegno>(File(".FOG"), k);
+        RecAssegno a = LeggiUno<RecAssegno>(File(".FOG"), k);
         EXPECT_EQ(a.NrCarnet, carnet[k - 1]) << k;
         EXPECT_EQ(a.NrMovimento, movimento[k - 1]) << k;
     }
@@ -146,6 +145,6 @@ TEST_F(AmbienteChiusura, ReorganisationTiesSheetsAgain) {
     Stato.Carnet[2].Chiuso = "S";
     ChiudiCarnet();
     EXPECT_EQ(Stato.NumCarnet, 1);
-    EXPECT_EQ(Leggi<RecCarnet>(File(".CAR"), 1).MovCosto, 3);
+    EXPECT_EQ(LeggiUno<RecCarnet>(File(".CAR"), 1).MovCosto, 3);
 }
 } // namespace

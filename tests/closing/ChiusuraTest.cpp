@@ -9,22 +9,6 @@
 #include <vector>
 
 namespace {
-RecMovimento Mov(int nr, const std::string& data, const std::string& causale, double importo,
-                 const std::string& dA, const std::string& sospeso, const std::string& nrDoc) {
-    RecMovimento m;
-    m.NrOper = static_cast<std::int16_t>(nr);
-    m.DataOper = data;
-    m.DataValuta = data;
-    m.Causale = causale;
-    m.IMPORTO = importo;
-    m.NrDoc = nrDoc;
-    m.DescMovim = "movimento " + std::to_string(nr);
-    m.Sospeso = sospeso;
-    m.D_A = dA;
-    m.Annullato = "N";
-    return m;
-}
-
 RecCarnet Libretto(int nr, const std::string& data, int inf, int fogliFuori, int movCosto) {
     RecCarnet c;
     c.MovCosto = static_cast<std::int16_t>(movCosto);
@@ -54,17 +38,23 @@ RecAssegno Foglio(int record, int carnet, int numero, const std::string& data, i
 // blank, which counts as 0). Book 2 (2001-2010) has 9 sheets out and stays.
 std::vector<RecMovimento> Movimenti() {
     return {
-        Mov(1, "01/01/2001", "CA", 10, "U", "N", "1"),      // cost of book 1: goes
-        Mov(2, "10/01/2001", "AS", 100, "U", "N", "1001"),  // cheque of book 1: goes
-        Mov(3, "15/01/2001", "AS", 50, "U", "N", "1002"),   // cheque of book 1: goes
-        Mov(4, "01/02/2001", "CA", 10, "U", "S", "2"),      // cost of book 2: stays
-        Mov(5, "05/02/2001", "AS", 70, "U", "N", "2001"),   // cheque of book 2: stays
-        Mov(6, "01/03/2001", "VS", 1000, "E", "N", ""),     // aligned: goes
-        Mov(7, "10/03/2001", "PR", 300, "U", "S", "2002"),  // suspended, NrDoc of a sheet
-        Mov(8, "20/03/2001", "VS", 200, "E", "S", ""),      // suspended: stays
-        Mov(9, "01/06/2001", "VS", 500, "E", "N", ""),      // aligned: goes
-        Mov(10, "10/07/2001", "PR", 40, "U", "N", ""),      // after today, by the close: goes
-        Mov(11, "20/07/2001", "VS", 25, "E", "N", ""),      // after the close: stays
+        // Book 1: its cost and two cheques go with it.
+        Mov(1, "01/01/2001", "01/01/2001", 10, "U", "N", "CA", "1"),
+        Mov(2, "10/01/2001", "10/01/2001", 100, "U", "N", "AS", "1001"),
+        Mov(3, "15/01/2001", "15/01/2001", 50, "U", "N", "AS", "1002"),
+        // Book 2: its cost (suspended) and a cheque stay.
+        Mov(4, "01/02/2001", "01/02/2001", 10, "U", "S", "CA", "2"),
+        Mov(5, "05/02/2001", "05/02/2001", 70, "U", "N", "AS", "2001"),
+        // Aligned: goes.
+        Mov(6, "01/03/2001", "01/03/2001", 1000, "E", "N", "VS", ""),
+        // Suspended, so it stays; its NrDoc is the number of a sheet of book 2.
+        Mov(7, "10/03/2001", "10/03/2001", 300, "U", "S", "PR", "2002"),
+        Mov(8, "20/03/2001", "20/03/2001", 200, "E", "S", "VS", ""),
+        // Aligned: go, the second dated after today.
+        Mov(9, "01/06/2001", "01/06/2001", 500, "E", "N", "VS", ""),
+        Mov(10, "10/07/2001", "10/07/2001", 40, "U", "N", "PR", ""),
+        // After the close: stays.
+        Mov(11, "20/07/2001", "20/07/2001", 25, "E", "N", "VS", ""),
     };
 }
 
@@ -131,17 +121,17 @@ TEST_F(Chiusura, ByHandThenUndoneByteForByte) {
     for (int i = 0; i < 5; ++i) {
         RecMovimento atteso = mov[static_cast<std::size_t>(sopravvissuti[i] - 1)];
         atteso.NrOper = static_cast<std::int16_t>(i + 1);
-        RecMovimento letto = Leggi<RecMovimento>(File(".MOV"), i + 1);
+        RecMovimento letto = LeggiUno<RecMovimento>(File(".MOV"), i + 1);
         EXPECT_EQ(letto.NrOper, atteso.NrOper);
         EXPECT_EQ(letto.DescMovim, atteso.DescMovim);
         EXPECT_EQ(letto.Annullato, "N");
     }
     for (int i = 6; i <= 11; ++i)
-        EXPECT_EQ(Leggi<RecMovimento>(File(".MOV"), i).NrOper, i);
+        EXPECT_EQ(LeggiUno<RecMovimento>(File(".MOV"), i).NrOper, i);
 
     // Book 2 alone, compacted to record 1, with MovCosto of before the compaction (4).
     EXPECT_EQ(LeggiContatore(File(".NRC")), 1);
-    RecCarnet c = Leggi<RecCarnet>(File(".CAR"), 1);
+    RecCarnet c = LeggiUno<RecCarnet>(File(".CAR"), 1);
     EXPECT_EQ(c.NrCarnet, 2);
     EXPECT_EQ(c.MovCosto, 4);
     // Its ten sheets at records 1-10: 2001 to movement 2 (old 5), 2002 taken over by the
@@ -149,7 +139,7 @@ TEST_F(Chiusura, ByHandThenUndoneByteForByte) {
     EXPECT_EQ(LeggiContatore(File(".NRF")), 10);
     const int movimentoFoglio[] = {2, 3, 0, 0, 0, 0, 0, 0, 0, 0};
     for (int k = 1; k <= 10; ++k) {
-        RecAssegno a = Leggi<RecAssegno>(File(".FOG"), k);
+        RecAssegno a = LeggiUno<RecAssegno>(File(".FOG"), k);
         EXPECT_EQ(a.NrAssegno, 2000 + k);
         EXPECT_EQ(a.NrCarnet, 2);
         EXPECT_EQ(a.NrFoglio, 10 + k);
@@ -157,10 +147,10 @@ TEST_F(Chiusura, ByHandThenUndoneByteForByte) {
     }
 
     // Removed: -10 -100 -50 +1000 +500 -40 = 1300, onto the 1000 carried.
-    RecRiporto rip = Leggi<RecRiporto>(File(".RIP"), 1);
+    RecRiporto rip = LeggiUno<RecRiporto>(File(".RIP"), 1);
     EXPECT_EQ(rip.DataRiporto, "15/07/2001");
     EXPECT_DOUBLE_EQ(rip.ImportoRiporto, 2300);
-    RecChiusura chi = Leggi<RecChiusura>(File(".chi"), 1);
+    RecChiusura chi = LeggiUno<RecChiusura>(File(".chi"), 1);
     EXPECT_EQ(chi.DataRiporto, "31/12/2000");
     EXPECT_DOUBLE_EQ(chi.ImportoRiporto, 1000);
     EXPECT_EQ(chi.CodConto.Testo(), "CONTO12345  ");
@@ -168,7 +158,7 @@ TEST_F(Chiusura, ByHandThenUndoneByteForByte) {
     // 2300 -10 -70 -300 +200 +25: the last balance is that of before (1000 + all = 2145);
     // aligned 2300 -70 +25; by date up to today 2300 -10 -70 -300 +200, so the -40 dated
     // after today now counts through the carried balance.
-    RecTotali t = Leggi<RecTotali>(File(".TOT"), 1);
+    RecTotali t = LeggiUno<RecTotali>(File(".TOT"), 1);
     EXPECT_DOUBLE_EQ(t.SaldoUltimaData, 2145);
     EXPECT_DOUBLE_EQ(t.SaldoAllineamento, 2255);
     EXPECT_DOUBLE_EQ(t.SaldoOperazione, 2120);
@@ -256,7 +246,7 @@ TEST_F(Chiusura, CutAtEachWriteThenUndone) {
 // Sixty removed movements: 57 lines on the first page, the break at the 58th.
 TEST_F(Chiusura, PagesOfFiftyEightLines) {
     for (int i = 1; i <= 60; ++i)
-        Scrivi(File(".MOV"), Mov(i, "01/03/2001", "VS", 1, "E", "N", ""), i);
+        Scrivi(File(".MOV"), Mov(i, "01/03/2001", "01/03/2001", 1, "E", "N", "VS", ""), i);
     ScriviContatore(File(".MOR"), 60);
     ScriviContatore(File(".NRC"), 0);
     ScriviContatore(File(".NRF"), 0);
@@ -279,6 +269,6 @@ TEST_F(Chiusura, PagesOfFiftyEightLines) {
     EXPECT_EQ(std::count(dopo + 3, dopo + 58, "||"), 55);
     EXPECT_EQ(carta[carta.size() - 2], "|                                          Pagina 2"
                                         "                 ....fine stampa|");
-    EXPECT_DOUBLE_EQ(Leggi<RecRiporto>(File(".RIP"), 1).ImportoRiporto, 1060);
+    EXPECT_DOUBLE_EQ(LeggiUno<RecRiporto>(File(".RIP"), 1).ImportoRiporto, 1060);
 }
 } // namespace
