@@ -1,5 +1,6 @@
 #include "shell/Applicazione.h"
 
+#include "interest/Form26.h"
 #include "refdata/CausaliValute.h"
 #include "refdata/Conti.h"
 #include "shell/Avvio.h"
@@ -17,6 +18,7 @@ Applicazione::Applicazione() {
     CollegaMenuConti(MDIForm1);
     CollegaMenuMovimenti(MDIForm1);
     CollegaFinestraPrincipale(MDIForm1);
+    CollegaMenuInteressi(MDIForm1);
 }
 
 Applicazione::~Applicazione() { corrente = nullptr; }

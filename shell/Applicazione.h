@@ -1,6 +1,9 @@
 #pragma once
 // Every screen of the program, made once when the program starts. Screens reach each other
 // through App(), as the design's screens call each other by name (App().Form9.DataOper).
+#include "interest/Form26.h"
+#include "interest/Form28.h"
+#include "interest/Staffa.h"
 #include "ledger/Form11.h"
 #include "ledger/Form20.h"
 #include "ledger/Form9.h"
@@ -31,6 +34,9 @@ struct Applicazione {
     ::Form11 Form11;
     ::Form20 Form20;
     ::Form22 Form22;
+    ::Form26 Form26;
+    ::Form28 Form28;
+    ::Staffa Staffa;
 
     Applicazione();
     ~Applicazione();
