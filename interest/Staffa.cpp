@@ -1,5 +1,6 @@
 #include "interest/Staffa.h"
 
+#include "interest/Competenze.h"
 #include "interest/Condizioni.h"
 #include "interest/Scala.h"
 #include "ledger/Registro.h"
@@ -71,6 +72,7 @@ Staffa::Staffa() {
         al.SetText(Stato.UltimaDataValuta);
     };
     via.Click = [this] { CalcolaStaffa(*this); };
+    Interessi.Click = [this] { CalcolaCompetenze(*this); };
     Stampa.Click = [this] {
         if (List1.Visible)
             StampaStaffa();

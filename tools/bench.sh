@@ -5,7 +5,9 @@
 #       a `date` process before and after each run would add some 7 ms to it;
 #   (b) one new movement in-process, with the whole rewrite of .Ord; mean of 50 (below 5 ms);
 #   (c) the staffa of a year of 1000 movements in-process, from `via` to the last row; mean of
-#       50 (below 5 ms).
+#       50 (below 5 ms);
+#   (d) `Interessi` on the same year, to the last row of the competences; mean of 50 (below
+#       10 ms).
 # Usage: tools/bench.sh BUILD_DIR
 set -euo pipefail
 
@@ -54,3 +56,6 @@ printf '(b) un movimento nuovo con riscrittura di .Ord: %s ms (media di 50)\n' \
 
 printf '(c) staffa di un anno di 1000 movimenti: %s ms (media di 50)\n' \
     "$("$bench" staffa "$work/prog")"
+
+printf '(d) interessi di un anno di 1000 movimenti: %s ms (media di 50)\n' \
+    "$("$bench" interessi "$work/prog")"

@@ -7,6 +7,7 @@
 //                                whole rewrite of .Ord; prints the mean in milliseconds
 //   bench_registro staffa DIR    opens account "1" and times 50 presses of `via` on the year
 //                                2000, which holds more than the 1000 movements a ladder takes
+//   bench_registro interessi DIR the same with `Interessi`
 #include "interest/Staffa.h"
 #include "ledger/Registro.h"
 #include "screen/PiattaformaSenzaSchermo.h"
@@ -18,6 +19,8 @@
 
 #include <chrono>
 #include <cstdio>
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -111,7 +114,8 @@ void Aggiungi() {
                 }));
 }
 
-void StaffaAnno() {
+// The ladder screen on the year 2000 of account "1", with its conditions.
+template <class F> void StaffaAnno(F&& premi) {
     Applicazione app;
     ApriConto(app, 1);
     Staffa& f = app.Staffa;
@@ -119,22 +123,31 @@ void StaffaAnno() {
     Stato.OpzioniCalcolo.Divisore = 1;
     f.dal.SetText("01/01/2000");
     f.al.SetText("31/12/2000");
-    std::printf("%.2f\n", Media([&f] { f.via.Clicca(); }));
+    Stato.TassiCreditori.DataC1 = Stato.TassiDebitori.DATAD1 = "01/01/1990";
+    Stato.TassiCreditori.PerC1 = 1;
+    Stato.TassiDebitori.PerD1 = 8;
+    Stato.TassiDebitori.PerD6 = 12;
+    std::printf("%.2f\n", Media([&f, &premi] { premi(f); }));
 }
 } // namespace
 
 int main(int argc, char** argv) {
     std::string comando = argc == 3 ? argv[1] : "";
-    if (comando != "prepara" && comando != "aggiungi" && comando != "staffa") {
-        std::fprintf(stderr, "uso: bench_registro prepara|aggiungi|staffa CARTELLA\n");
+    if (comando != "prepara" && comando != "aggiungi" && comando != "staffa" &&
+        comando != "interessi") {
+        std::fprintf(stderr, "uso: bench_registro prepara|aggiungi|staffa|interessi CARTELLA\n");
         return 2;
     }
     PiattaformaSenzaSchermo porta;
     ImpostaPiattaforma(&porta);
     Stato.PercorsoProgramma = std::string(argv[2]) + "/";
-    bool riuscito = EseguiEvento(comando == "prepara" ? Prepara
-                                 : comando == "aggiungi" ? Aggiungi
-                                                         : StaffaAnno);
+    const std::map<std::string, std::function<void()>> comandi = {
+        {"prepara", Prepara},
+        {"aggiungi", Aggiungi},
+        {"staffa", [] { StaffaAnno([](Staffa& f) { f.via.Clicca(); }); }},
+        {"interessi", [] { StaffaAnno([](Staffa& f) { f.Interessi.Clicca(); }); }},
+    };
+    bool riuscito = EseguiEvento(comandi.at(comando));
     for (const std::string& messaggio : porta.messaggi)
         std::fprintf(stderr, "%s\n", messaggio.c_str());
     ImpostaPiattaforma(nullptr);
