@@ -188,6 +188,9 @@ void CollegaMenuConti(MDIForm1& f) {
         s.S.Show();
     };
     f.ApriConto.Click = [] { App().Form7.S.Show(); };
-    f.Command3D2.Click = [] { App().Form7.S.Show(); };
+    f.Command3D2.Click = [] {
+        if (App().Staffa.S.Caricato()) App().Staffa.S.UnloadMe();
+        App().Form7.S.Show();
+    };
     f.close.Click = ChiudiConto;
 }

@@ -1,6 +1,7 @@
 #include "shell/Applicazione.h"
 
 #include "closing/Form19.h"
+#include "interest/Form26.h"
 #include "refdata/CausaliValute.h"
 #include "refdata/Conti.h"
 #include "shell/Avvio.h"
@@ -19,6 +20,7 @@ Applicazione::Applicazione() {
     CollegaMenuMovimenti(MDIForm1);
     CollegaFinestraPrincipale(MDIForm1);
     CollegaMenuChiusure(MDIForm1);
+    CollegaMenuInteressi(MDIForm1);
 }
 
 Applicazione::~Applicazione() { corrente = nullptr; }

@@ -3,6 +3,9 @@
 // through App(), as the design's screens call each other by name (App().Form9.DataOper).
 #include "closing/Form18.h"
 #include "closing/Form19.h"
+#include "interest/Form26.h"
+#include "interest/Form28.h"
+#include "interest/Staffa.h"
 #include "ledger/Form11.h"
 #include "ledger/Form20.h"
 #include "ledger/Form9.h"
@@ -35,6 +38,9 @@ struct Applicazione {
     ::Form22 Form22;
     ::Form19 Form19;
     ::Form18 Form18;
+    ::Form26 Form26;
+    ::Form28 Form28;
+    ::Staffa Staffa;
 
     Applicazione();
     ~Applicazione();

@@ -4,6 +4,7 @@
 #include "store/Campi.h"
 #include "store/RecordAnagrafe.h"
 #include "store/RecordAssegni.h"
+#include "store/RecordCondizioni.h"
 #include "store/RecordRegistro.h"
 #include "store/Tabella.h"
 
@@ -31,6 +32,12 @@ struct StatoApplicazione {
     short NumCarnet = 0;
     Tabella<RecAssegno> Assegni{1500};
     short NumAssegni = 0;
+    // Its conditions for interest and charges, read again by each screen that uses them.
+    RecTassiCreditori TassiCreditori;
+    RecTassiDebitori TassiDebitori;
+    RecOpzioniCalcolo OpzioniCalcolo;
+    RecOneriPassivi OneriPassivi;
+    RecSpeseVarie SpeseVarie;
 
     // Shared masters, loaded at the start.
     Tabella<RecConto> Conti{100};

@@ -410,6 +410,15 @@ void Interprete::Select() {
 
 void Interprete::DblClick() {
     Controllo& c = ControlloRaggiungibile(Parola());
+    if (c.tipo != TipoControllo::Lista && c.tipo != TipoControllo::Combo) {
+        // Any other control with a double-click handler: focus, then the double click.
+        FineRiga();
+        if (!c.DblClick) Rifiuta(Riferimento(c) + " has no double click");
+        if (!c.Enabled || !c.Visible) return;
+        Fuoco(c);
+        EseguiEvento([&c] { c.DoppioClic(); });
+        return;
+    }
     std::string quale = Testo();
     FineRiga();
     if (Seleziona(c, Linea(c, quale))) EseguiEvento([&c] { c.DoppioClic(); });

@@ -26,11 +26,14 @@
 //   select REF WHICH         a click on a line of a list or combo: #N (from 0) or the first
 //                            line that begins with TEXT
 //   dblclick REF WHICH       select, then a double click
+//   dblclick REF             on any other control with a double-click handler: focus, then
+//                            the double click
 //   print REF|SCREEN|focus   a text, a caption, the lines of a list; options and check boxes
 //                            add " on" or " off"
 //   state REF|SCREEN         enabled|disabled visible|hidden; unloaded|hidden|shown|modal
 //   messages, paper          what was shown, or printed, since the last time
 //
+// Tabs are the view's: the fields of every tab of a screen are reachable, the tab in front or not.
 // The user's commands act only on a screen that is shown and, while a modal screen is up, only
 // on that screen; they don't bring a screen to the front (`show` does). A control that is
 // disabled or hidden takes no focus, no keys and no clicks. While the program holds a modal

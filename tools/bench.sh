@@ -3,7 +3,11 @@
 #   (a) a whole marendola-script process: start, opening of that account as the start account,
 #       print of the balances; mean of 20 runs (target below 25 ms), timed by bash's own clock:
 #       a `date` process before and after each run would add some 7 ms to it;
-#   (b) one new movement in-process, with the whole rewrite of .Ord; mean of 50 (below 5 ms).
+#   (b) one new movement in-process, with the whole rewrite of .Ord; mean of 50 (below 5 ms);
+#   (c) the staffa of a year of 1000 movements in-process, from `via` to the last row; mean of
+#       50 (below 5 ms);
+#   (d) `Interessi` on the same year, to the last row of the competences; mean of 50 (below
+#       10 ms).
 # Usage: tools/bench.sh BUILD_DIR
 set -euo pipefail
 
@@ -49,3 +53,9 @@ printf '(a) avvio + apertura + saldi, processo intero: %d.%03d ms (media di %d)\
 
 printf '(b) un movimento nuovo con riscrittura di .Ord: %s ms (media di 50)\n' \
     "$("$bench" aggiungi "$work/prog")"
+
+printf '(c) staffa di un anno di 1000 movimenti: %s ms (media di 50)\n' \
+    "$("$bench" staffa "$work/prog")"
+
+printf '(d) interessi di un anno di 1000 movimenti: %s ms (media di 50)\n' \
+    "$("$bench" interessi "$work/prog")"

@@ -5,6 +5,10 @@
 //                                Imposta.DAT, and account "2" with 50 places left
 //   bench_registro aggiungi DIR  opens account "2" and times 50 new movements, each with the
 //                                whole rewrite of .Ord; prints the mean in milliseconds
+//   bench_registro staffa DIR    opens account "1" and times 50 presses of `via` on the year
+//                                2000, which holds more than the 1000 movements a ladder takes
+//   bench_registro interessi DIR the same with `Interessi`
+#include "interest/Staffa.h"
 #include "ledger/Registro.h"
 #include "screen/PiattaformaSenzaSchermo.h"
 #include "shell/Applicazione.h"
@@ -15,6 +19,8 @@
 
 #include <chrono>
 #include <cstdio>
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -76,39 +82,72 @@ void Prepara() {
               [&] { ScriviRecord(imposta, 1, 1); });
 }
 
-void Aggiungi() {
-    Applicazione app;
+// The mean of 50 runs of `passo`, in milliseconds.
+template <class F> double Media(F&& passo) {
+    auto inizio = std::chrono::steady_clock::now();
+    for (int k = 0; k < Aggiunte; ++k) passo();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - inizio)
+               .count() /
+           Aggiunte;
+}
+
+// Opens account `numero` of those Prepara wrote, as Form9 does.
+void ApriConto(Applicazione& app, short numero) {
     Stato.PercorsoDati = Stato.PercorsoProgramma + "dati/";
     Stato.FormatoImporti = "#,###,###,##0.00";
-    Stato.NumConti = 2;
-    Stato.Conti[2].CodConto = "2";
-    Stato.IndiceConto = 2;
-    Stato.CodContoAperto = "2";
+    Stato.NumConti = numero;
+    Stato.Conti[numero].CodConto = std::to_string(numero);
+    Stato.Conti[numero].Fido = 5000;
+    Stato.IndiceConto = numero;
+    Stato.CodContoAperto = std::to_string(numero);
     app.Form9.S.Show();
+}
 
-    double totale = 0;
-    for (int k = 0; k < Aggiunte; ++k) {
-        auto inizio = std::chrono::steady_clock::now();
-        Stato.NumMovimenti += 1;
-        Stato.Movimenti[Stato.NumMovimenti] = Movimento(Stato.NumMovimenti);
-        AggiungiMovimento();
-        totale += std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() -
-                                                            inizio).count();
-    }
-    std::printf("%.2f\n", totale / Aggiunte);
+void Aggiungi() {
+    Applicazione app;
+    ApriConto(app, 2);
+
+    std::printf("%.2f\n", Media([] {
+                    Stato.NumMovimenti += 1;
+                    Stato.Movimenti[Stato.NumMovimenti] = Movimento(Stato.NumMovimenti);
+                    AggiungiMovimento();
+                }));
+}
+
+// The ladder screen on the year 2000 of account "1", with its conditions.
+template <class F> void StaffaAnno(F&& premi) {
+    Applicazione app;
+    ApriConto(app, 1);
+    Staffa& f = app.Staffa;
+    f.S.Show();
+    Stato.OpzioniCalcolo.Divisore = 1;
+    f.dal.SetText("01/01/2000");
+    f.al.SetText("31/12/2000");
+    Stato.TassiCreditori.DataC1 = Stato.TassiDebitori.DATAD1 = "01/01/1990";
+    Stato.TassiCreditori.PerC1 = 1;
+    Stato.TassiDebitori.PerD1 = 8;
+    Stato.TassiDebitori.PerD6 = 12;
+    std::printf("%.2f\n", Media([&f, &premi] { premi(f); }));
 }
 } // namespace
 
 int main(int argc, char** argv) {
     std::string comando = argc == 3 ? argv[1] : "";
-    if (comando != "prepara" && comando != "aggiungi") {
-        std::fprintf(stderr, "uso: bench_registro prepara|aggiungi CARTELLA\n");
+    if (comando != "prepara" && comando != "aggiungi" && comando != "staffa" &&
+        comando != "interessi") {
+        std::fprintf(stderr, "uso: bench_registro prepara|aggiungi|staffa|interessi CARTELLA\n");
         return 2;
     }
     PiattaformaSenzaSchermo porta;
     ImpostaPiattaforma(&porta);
     Stato.PercorsoProgramma = std::string(argv[2]) + "/";
-    bool riuscito = EseguiEvento(comando == "prepara" ? Prepara : Aggiungi);
+    const std::map<std::string, std::function<void()>> comandi = {
+        {"prepara", Prepara},
+        {"aggiungi", Aggiungi},
+        {"staffa", [] { StaffaAnno([](Staffa& f) { f.via.Clicca(); }); }},
+        {"interessi", [] { StaffaAnno([](Staffa& f) { f.Interessi.Clicca(); }); }},
+    };
+    bool riuscito = EseguiEvento(comandi.at(comando));
     for (const std::string& messaggio : porta.messaggi)
         std::fprintf(stderr, "%s\n", messaggio.c_str());
     ImpostaPiattaforma(nullptr);

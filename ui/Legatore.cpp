@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTabWidget>
 #include <QToolButton>
 
 #include <memory>
@@ -177,6 +178,11 @@ bool Filtro::eventFilter(QObject* o, QEvent* e) {
     }
     case QEvent::KeyPress:
         return Tasto(c, o, *static_cast<QKeyEvent*>(e));
+    case QEvent::MouseButtonDblClick:
+        // A field with a double-click handler (the lists report theirs themselves).
+        if (!c->DblClick || !qobject_cast<QLineEdit*>(o)) return false;
+        EventoDaVista([c] { c->DoppioClic(); });
+        return true;
     case QEvent::KeyRelease: {
         auto* tasto = static_cast<QKeyEvent*>(e);
         if (tasto->isAutoRepeat() || !c->KeyUp) return false;
@@ -364,7 +370,13 @@ void ScriviFuoco() {
         if (QMdiArea* area = finestra->mdiArea(); area && area->activeSubWindow() != finestra)
             area->setActiveSubWindow(finestra);
     QWidget* w = WidgetDi(*ls, attivo->Fuoco());
-    if (w && !w->hasFocus()) w->setFocus(Qt::OtherFocusReason);
+    if (!w) return;
+    // The tab of the control with the focus comes to the front.
+    for (QWidget* pagina = w; pagina->parentWidget(); pagina = pagina->parentWidget())
+        if (auto* schede = qobject_cast<QTabWidget*>(pagina->parentWidget()->parentWidget()))
+            if (int i = schede->indexOf(pagina); i >= 0 && schede->currentIndex() != i)
+                schede->setCurrentIndex(i);
+    if (!w->hasFocus()) w->setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace
