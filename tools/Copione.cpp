@@ -6,6 +6,7 @@
 #include "shell/Avvio.h"
 #include "store/Cp1252.h"
 #include "store/Date.h"
+#include "store/FileRecord.h"
 #include "store/Guasto.h"
 #include "store/RecordAnagrafe.h"
 #include "store/RecordAssegni.h"
@@ -47,14 +48,6 @@ int Tasto(const std::string& carattere) {
     Cp1252DaUtf8(carattere, &byte, 1);
     return static_cast<int>(CarattereCp1252(byte));
 }
-
-// A bare 16-bit integer as a record: the counters and the order file hold nothing else.
-struct RecIntero {
-    static constexpr std::size_t Lunghezza = 2;
-    std::int16_t n = 0;
-
-    template <class R, class F> static constexpr void Campi(R& r, F&& f) { f(r.n); }
-};
 
 template <class T> void ScriviCampo(std::ostream& o, const T& campo) {
     if constexpr (std::is_floating_point_v<T>) {
