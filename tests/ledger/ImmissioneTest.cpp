@@ -1,4 +1,4 @@
-#include "AmbienteRegistro.h"
+#include "tests/Ambiente.h"
 
 #include "ledger/Immissione.h"
 #include "ledger/Registro.h"
@@ -15,10 +15,10 @@ const std::string dataErrata =
     "numeri con una sola cifra. -> OK";
 } // namespace
 
-class ImmissioneTest : public AmbienteRegistro {
+class ImmissioneTest : public AmbienteConto {
 protected:
     void SetUp() override {
-        AmbienteRegistro::SetUp();
+        AmbienteConto::SetUp();
         Stato.Causali[1].Sospeso = "S";
         Stato.Causali[1].DareAvere = "E";
         Stato.Causali[2].Sospeso = "N";
@@ -280,32 +280,6 @@ TEST_F(ImmissioneTest, CambioNellaVistaPerValutaRivendicaLOrdinePerOperazione) {
     EXPECT_TRUE(f().Command2.Enabled);
 }
 
-TEST_F(ImmissioneTest, PulisciRimetteIlMovimentoComEra) {
-    ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N"),
-                     Mov(2, "02/07/2001", "02/07/2001", 40, "U", "S", "PR", "", "S")});
-    f().S.Show();
-    const auto prima = Saldi();
-
-    Richiama(2);
-    f().IMPORTO.SetFocus();
-    f().IMPORTO.SetText("999");
-    f().pulisci.Clicca();
-
-    EXPECT_EQ(Saldi(), prima);
-    EXPECT_EQ(SaldiTot(), prima);
-    EXPECT_EQ(app->MDIForm1.Saldi(1).Text(), "60,00");
-    EXPECT_EQ(Leggi(".MOV").at(1).IMPORTO, 40);
-    EXPECT_EQ(Stato.MovimentoCorrente, 0);
-    EXPECT_EQ(f().ElencoMovim.ListIndex(), -1);
-    EXPECT_EQ(f().elencoValuta.ListIndex(), -1);
-    EXPECT_FALSE(f().Del.Enabled);
-    EXPECT_EQ(f().Del.Text(), "Del");
-    EXPECT_EQ(f().IMPORTO.Text(), "");
-    EXPECT_TRUE(f().DataOper.HaFuoco());
-    // pulisci shows the count, and DataOper taking the focus the number of the next one.
-    EXPECT_EQ(f().NrOper.Text(), "3");
-}
-
 TEST_F(ImmissioneTest, EscConMovimentoRichiamatoLasciaISaldiSenzaFinoAlRicarico) {
     ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N"),
                      Mov(2, "02/07/2001", "02/07/2001", 40, "E", "N")});
@@ -469,20 +443,3 @@ INSTANTIATE_TEST_SUITE_P(
                   "Form9.DataValuta"}),
     [](const auto& info) { return std::string(info.param.nome); });
 
-TEST_F(ImmissioneTest, CampiPieniAvanzanoEInvioInFondoConferma) {
-    f().S.Show();
-    Riga("01/07/2001", "01/07/2001", "VS", "12");
-    f().NrDoc.SetFocus();
-    f().NrDoc.SetText("");
-    for (char c : std::string("12345678")) f().S.Fuoco()->Digita(c);
-    EXPECT_EQ(f().NrDoc.Text(), "12345678");
-    EXPECT_TRUE(f().DescMovim.HaFuoco());
-    for (char c : std::string(30, 'x')) f().S.Fuoco()->Digita(c);
-    EXPECT_TRUE(f().OK.HaFuoco());
-
-    f().DescMovim.SetFocus();
-    f().DescMovim.SetText("Fine");
-    f().DescMovim.Digita(TastoInvio);
-    EXPECT_EQ(Stato.NumMovimenti, 1);
-    EXPECT_EQ(Leggi(".MOV").at(0).DescMovim.Testo(), Giustifica("Fine", 30));
-}

@@ -2,8 +2,7 @@
 #include "store/Guasto.h"
 #include "store/Piattaforma.h"
 
-#include "tests/NumeroGuasto.h"
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include <gtest/gtest.h>
 
@@ -11,15 +10,12 @@
 #include <vector>
 
 namespace {
-// The boxes shown, and a fixed today.
-class DateConPiattaforma : public ::testing::Test {
-protected:
+// A fixed today.
+struct DateConPiattaforma : Ambiente {
     void SetUp() override {
+        Ambiente::SetUp();
         porta.oggi = DataCivile{7, 3, 2024};
-        ImpostaPiattaforma(&porta);
     }
-    void TearDown() override { ImpostaPiattaforma(nullptr); }
-    PortaCheGuarda porta;
 };
 
 TEST(NumeroData, ScalaConLoSfasamentoDiGiugno) {
