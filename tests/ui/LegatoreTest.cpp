@@ -115,7 +115,8 @@ TEST_F(Legatore, LeScrittureDelLegatoreNonTornanoComeEventi) {
         eventi.push_back("OK.Click");
         p.Nome.SetText("scritto dal programma");
         p.Valuta.AddItem("Euro - Unione Europea");
-        p.Valuta.SetListIndex(0);
+        p.Valuta.AddItem("Lira - Italia");
+        p.Valuta.SetListIndex(1);
         p.Elenco.AddItem("riga");
         p.Elenco.SetListIndex(0);
         p.Due.SetValue(true);
@@ -125,7 +126,8 @@ TEST_F(Legatore, LeScrittureDelLegatoreNonTornanoComeEventi) {
     EXPECT_EQ(eventi, (std::vector<std::string>{"OK.Click", "Nome.Change", "Valuta.Click",
                                                 "Elenco.Click"}));
     EXPECT_EQ(Widget<QLineEdit>("Nome")->text(), "scritto dal programma");
-    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentText(), "Euro - Unione Europea");
+    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentIndex(), 1);
+    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentText(), "Lira - Italia");
     EXPECT_TRUE(Widget<QRadioButton>("Due")->isChecked());
 }
 
