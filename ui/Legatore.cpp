@@ -372,12 +372,14 @@ bool SoloListView(const QObject* o) {
 }
 
 // The kinds of widget: which objects are one, the kinds of control each may stand for, how the
-// user's side is tied to the control and how the model is written to the widget.
+// user's side is tied to the control and how the model is written to the widget. A menu is a
+// widget too, but it shows as it opens and is enabled and visible through its entry.
 struct TipoWidget {
     bool (*e)(const QObject*);
     std::vector<TipoControllo> tipi;
     void (*collega)(Filtro&, Legame&);
     void (*scrivi)(Legame&);
+    bool finestra = true;    // enabled, visible and tip written on the widget itself
 };
 
 const std::vector<TipoWidget>& TipiWidget() {
@@ -392,7 +394,7 @@ const std::vector<TipoWidget>& TipiWidget() {
         {&Di<QComboBox>, {T::Combo}, &CollegaCombo, &ScriviCombo},
         {&SoloListView, {T::Lista}, &CollegaLista, &ScriviLista},
         {&Di<QAction>, {T::Menu}, &CollegaVoce, &ScriviVoce},
-        {&Di<QMenu>, {T::Menu}, &CollegaMenu, &ScriviMenu},
+        {&Di<QMenu>, {T::Menu}, &CollegaMenu, &ScriviMenu, false},
     };
     return tipi;
 }
@@ -416,7 +418,7 @@ void Collega(Filtro& f, Legame& l) {
 void Scrivi(Legame& l) {
     if (!l.oggetto) return;
     const Controllo& c = *l.c;
-    if (auto* w = qobject_cast<QWidget*>(l.oggetto.data())) {
+    if (auto* w = qobject_cast<QWidget*>(l.oggetto.data()); w && l.tipo->finestra) {
         if (w->testAttribute(Qt::WA_ForceDisabled) == c.Enabled) w->setEnabled(c.Enabled);
         if (w->isHidden() == c.Visible) w->setVisible(c.Visible);
         if (w->toolTip() != Q(c.ToolTipText)) w->setToolTip(Q(c.ToolTipText));

@@ -220,6 +220,8 @@ TEST_F(Legatore, VisibileSuggerimentoEMenuCheSiApre) {
     EXPECT_FALSE(saldo->isVisible());
     EXPECT_EQ(saldo->toolTip(), "Saldo per data valuta");
 
+    // A menu pops up only when the user opens it: its visibility is that of its entry.
+    EXPECT_FALSE(Widget<QMenu>("Menu")->isVisible());
     // The menu's handler runs as it opens and may change its entries before they show.
     p.Menu.Click = [&] { p.Voce.Enabled = false; };
     emit Widget<QMenu>("Menu")->aboutToShow();
