@@ -219,14 +219,22 @@ struct AmbienteConto : Ambiente {
         Stato.CodContoAperto = "123";
         Stato.FormatoImporti = "#,###,###,##0.00";
         Stato.NumCausali = 2;
-        Stato.Causali[1].CodCausale = "VS";
-        Stato.Causali[1].DescCausale = "Versamento contanti in banca";
-        Stato.Causali[2].CodCausale = "PR";
-        Stato.Causali[2].DescCausale = "Prelievo";
+        Causale(1, "VS", "Versamento contanti in banca");
+        Causale(2, "PR", "Prelievo");
         Stato.NumConti = 1;
         Stato.Conti[1].CodConto = "123";
         Stato.IndiceConto = 1;
         app = std::make_unique<Applicazione>();
+    }
+
+    // Causale n of the table in memory.
+    static void Causale(long n, const std::string& codice, const std::string& descrizione,
+                        const std::string& sospeso = "", const std::string& dA = "") {
+        RecCausale& c = Stato.Causali[n];
+        c.CodCausale = codice;
+        c.DescCausale = descrizione;
+        c.Sospeso = sospeso;
+        c.DareAvere = dA;
     }
 
     std::string File(const std::string& estensione) const {

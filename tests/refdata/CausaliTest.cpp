@@ -49,15 +49,6 @@ struct CausaliTest : AmbienteAvviato {
     short ContatoreSuDisco() { return LeggiContatore((programma / "RecCausa.dat").string()); }
 };
 
-TEST_F(CausaliTest, LaNuovaCausaleVaInFondoAllaTabellaEInOrdineNegliElenchi) {
-    app->FORM12.S.Carica();
-    Conferma("BO", "Bonifico ricevuto");
-    EXPECT_EQ(Tracciato(SuDisco(4)), "BO|Bonifico ricevuto|NE0");
-    EXPECT_EQ(SuDisco(4).Numero, 4);
-    EXPECT_EQ(ContatoreSuDisco(), 4);
-    EXPECT_EQ(app->FORM12.List1.List(1), "BO     - Bonifico ricevuto        ");
-}
-
 TEST_F(CausaliTest, IlDoppioneSiRiconosceSoloSulTestoEsattoDelCodice) {
     // "VS " and "VSXYZW" slip through and store "VS" and "VSXYZ" again.
     const std::pair<const char*, bool> casi[] = {{"VS", true},   {"GC", true},  {" VS", false},

@@ -143,24 +143,6 @@ TEST_F(ContiTest, NumeriDoppiConfrontatiSenzaIBlankADestra) {
     EXPECT_EQ(SuDisco(2).CodConto.Testo(), " 12" + Blank(9));
 }
 
-TEST_F(ContiTest, LaModificaRiscriveIlSuoRecord) {
-    Archivio({"12", "34"});
-    ScriviConto("34", "Banca Due", 2500, 2);
-    Clic(Finestra().NuovoConto);
-    Seleziona(F2().ListaConti, "34", true);
-    F2().NomeBanca.SetText("Banca Tre");
-    F2().Cab.SetText("CAB");
-    Clic(F2().AddAnItem);
-    EXPECT_TRUE(Messaggi().empty());
-    RecConto c = SuDisco(2);
-    EXPECT_EQ(c.Numero, 2);
-    EXPECT_EQ(Campi(c), "34||Banca Tre||||||CAB||");
-    EXPECT_DOUBLE_EQ(c.Fido, 2500);
-    EXPECT_EQ(fs::file_size(dati / "Conti.dat"), 2 * 205u);
-    // Every field empties, Cab too.
-    EXPECT_EQ(F2().Cab.Text(), "");
-}
-
 TEST_F(ContiTest, UnContoAppenaAggiuntoSiScegliePureDallaSuaRigaCorta) {
     Archivio({"12"});
     Clic(Finestra().NuovoConto);
