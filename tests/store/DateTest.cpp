@@ -25,6 +25,7 @@ TEST(NumeroData, ScalaConLoSfasamentoDiGiugno) {
         float atteso;
     } casi[] = {
         {"29 febbraio bisestile", "29/02/2000", 732060},    // 732000 + 31 + 29
+        {"primo marzo bisestile", "01/03/2000", 732061},    // 732000 + 59 + 1 + 1
         {"primo gennaio", "01/01/2001", 732367},            // 732366 + 1
         {"30 giugno", "30/06/2001", 732555},                // 732366 + 159 + 30
         {"10 luglio", "10/07/2001", 732557},                // 732366 + 181 + 10
