@@ -18,13 +18,7 @@ void CaricaConto() {
 
     ConRecord(NomeFileConto(".TOT"), RecTotali::Lunghezza, 1,
               [] { LeggiRecord(Stato.Totali, 1, 1); });
-    const RecTotali& t = Stato.Totali;
-    Stato.SaldoAllineamento = t.SaldoAllineamento;
-    Stato.SaldoValuta = t.SaldoValuta;
-    Stato.SaldoOperazione = t.SaldoOperazione;
-    Stato.SaldoUltimaData = t.SaldoUltimaData;
-    Stato.PrimaDataOperazione = t.PrimaDataOperazione;
-    Stato.UltimaDataOperazione = t.UltimaDataOperazione;
+    CampiTotali(2, [](auto& lavoro, const auto& totali) { lavoro = totali; });
     if (Val(Stato.PrimaDataOperazione) == 0) Stato.PrimaDataOperazione = Oggi();
     if (Val(Stato.UltimaDataOperazione) == 0) Stato.UltimaDataOperazione = Oggi();
 

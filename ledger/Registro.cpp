@@ -76,24 +76,47 @@ void ScriviTotali() {
 
 // The working balances and dates into the buffer of .TOT, then the file.
 void SalvaTotali() {
-    RecTotali& t = Stato.Totali;
-    t.SaldoAllineamento = Stato.SaldoAllineamento;
-    t.SaldoValuta = Stato.SaldoValuta;
-    t.SaldoOperazione = Stato.SaldoOperazione;
-    t.SaldoUltimaData = Stato.SaldoUltimaData;
-    t.PrimaDataOperazione = Stato.PrimaDataOperazione;
-    t.UltimaDataOperazione = Stato.UltimaDataOperazione;
-    t.PrimaDataValuta = Stato.PrimaDataValuta;
-    t.UltimaDataValuta = Stato.UltimaDataValuta;
+    CampiTotali(4, [](const auto& lavoro, auto& totali) { totali = lavoro; });
     ScriviTotali();
 }
 
-// The movements whose `data` falls, by the calendar, between the two selection dates, as lines
-// keyed by that date, into `lista`. A date the calendar can't read stops the refill with the
-// lines found before it already in the list.
-void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
-            bool marcaAnnullato) {
+// The first and last of one date of the movements, compared as whole date numbers, into
+// `prima` and `ultima` and the selection fields; false when there was nothing to go by: no
+// movements, or `senzaPrimaFerma` and a first date that reads as none.
+bool Estremi(Fisso<10> RecMovimento::*data, Fisso<10>& prima, Fisso<10>& ultima,
+             bool senzaPrimaFerma) {
+    if (Stato.NumMovimenti < 1) return false;
+    auto& M = Stato.Movimenti;
+    int numeroPrima = NumeroIntero(M[1].*data);
+    if (senzaPrimaFerma && numeroPrima == 0) return false;
+    int numeroUltima = numeroPrima;
+    prima = ultima = M[1].*data;
+    for (long i = 1; i <= Stato.NumMovimenti; ++i) {
+        int numero = NumeroIntero(M[i].*data);
+        if (numeroPrima > numero) {
+            numeroPrima = numero;
+            prima = M[i].*data;
+        }
+        if (numeroUltima < numero) {
+            numeroUltima = numero;
+            ultima = M[i].*data;
+        }
+    }
     auto& f = App().Form9;
+    f.DataInizSel.SetText(prima);
+    f.DataFineSel.SetText(ultima);
+    return true;
+}
+
+// The movements whose `data` falls, by the calendar, between the two selection dates, as lines
+// keyed by that date, into `lista`, which takes the place of `altra` under `titolo`. While Ag
+// applies a filter it is disabled, and the typed dates stay; else `estremi` sets them first. A
+// date the calendar can't read stops the refill with the lines found before it already in the
+// list.
+void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
+            bool marcaAnnullato, void (*estremi)(), const char* titolo) {
+    auto& f = App().Form9;
+    if (f.Ag.Enabled) estremi();
     std::string inizio = LTrim(f.DataInizSel.Text());
     std::string fine = LTrim(f.DataFineSel.Text());
     lista.Clear();
@@ -124,6 +147,7 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
         throw;
     }
     consegna();
+    f.Label25.SetText(titolo);
 }
 } // namespace
 
@@ -214,11 +238,7 @@ void RicalcolaDaMovimenti() {
     Stato.SaldoAllineamento += riporto;
     if (Stato.FlagOperazione == 0) RidisegnaSaldi();
     // Only the balances: the dates of the buffer go out as they stand.
-    RecTotali& t = Stato.Totali;
-    t.SaldoAllineamento = Stato.SaldoAllineamento;
-    t.SaldoValuta = Stato.SaldoValuta;
-    t.SaldoOperazione = Stato.SaldoOperazione;
-    t.SaldoUltimaData = Stato.SaldoUltimaData;
+    CampiTotali(0, [](const auto& lavoro, auto& totali) { totali = lavoro; });
     ScriviTotali();
 }
 
@@ -247,52 +267,14 @@ void AggiungiMovimento() {
 }
 
 void EstremiOperazione() {
-    if (Stato.NumMovimenti < 1) return;
-    auto& M = Stato.Movimenti;
-    Stato.PrimaDataOperazione = M[1].DataOper;
-    Stato.UltimaDataOperazione = M[1].DataOper;
-    int prima = NumeroIntero(M[1].DataOper);
-    int ultima = prima;
-    for (long i = 1; i <= Stato.NumMovimenti; ++i) {
-        int numero = NumeroIntero(M[i].DataOper);
-        if (prima > numero) {
-            prima = numero;
-            Stato.PrimaDataOperazione = M[i].DataOper;
-        }
-        if (ultima < numero) {
-            ultima = numero;
-            Stato.UltimaDataOperazione = M[i].DataOper;
-        }
-    }
-    auto& f = App().Form9;
-    f.DataInizSel.SetText(Stato.PrimaDataOperazione);
-    f.DataFineSel.SetText(Stato.UltimaDataOperazione);
-    App().MDIForm1.UltimaData.SetText(Stato.UltimaDataOperazione);
+    if (Estremi(&RecMovimento::DataOper, Stato.PrimaDataOperazione, Stato.UltimaDataOperazione,
+                false))
+        App().MDIForm1.UltimaData.SetText(Stato.UltimaDataOperazione);
 }
 
 void EstremiValuta() {
-    // Nothing to go by without movements, nor when the first one has no value date.
-    if (Stato.NumMovimenti < 1) return;
-    auto& M = Stato.Movimenti;
-    int prima = NumeroIntero(M[1].DataValuta);
-    if (prima == 0) return;
-    Stato.PrimaDataValuta = M[1].DataValuta;
-    Stato.UltimaDataValuta = M[1].DataValuta;
-    int ultima = prima;
-    for (long i = 1; i <= Stato.NumMovimenti; ++i) {
-        int numero = NumeroIntero(M[i].DataValuta);
-        if (prima > numero) {
-            prima = numero;
-            Stato.PrimaDataValuta = M[i].DataValuta;
-        }
-        if (ultima < numero) {
-            ultima = numero;
-            Stato.UltimaDataValuta = M[i].DataValuta;
-        }
-    }
-    auto& f = App().Form9;
-    f.DataInizSel.SetText(Stato.PrimaDataValuta);
-    f.DataFineSel.SetText(Stato.UltimaDataValuta);
+    // Nothing to go by either when the first movement has no value date.
+    Estremi(&RecMovimento::DataValuta, Stato.PrimaDataValuta, Stato.UltimaDataValuta, true);
 }
 
 void AllargaEstremi() {
@@ -306,17 +288,14 @@ void AllargaEstremi() {
 
 void ElencaPerOperazione() {
     auto& f = App().Form9;
-    // While Ag applies a filter it is disabled, and the typed dates stay.
-    if (f.Ag.Enabled) EstremiOperazione();
-    Elenca(f.ElencoMovim, f.elencoValuta, &RecMovimento::DataOper, false);
-    f.Label25.SetText("Elenco Movimenti per data operazione");
+    Elenca(f.ElencoMovim, f.elencoValuta, &RecMovimento::DataOper, false, &EstremiOperazione,
+           "Elenco Movimenti per data operazione");
 }
 
 void ElencaPerValuta() {
     auto& f = App().Form9;
-    if (f.Ag.Enabled) EstremiValuta();
-    Elenca(f.elencoValuta, f.ElencoMovim, &RecMovimento::DataValuta, true);
-    f.Label25.SetText("Elenco Movimenti per data valuta");
+    Elenca(f.elencoValuta, f.ElencoMovim, &RecMovimento::DataValuta, true, &EstremiValuta,
+           "Elenco Movimenti per data valuta");
 }
 
 void RidisegnaSaldi() {

@@ -3,6 +3,7 @@
 // follows from them, the extreme dates, and the four balances with their panel on the main
 // window.
 #include "store/RecordRegistro.h"
+#include "store/Stato.h"
 
 #include <string>
 
@@ -26,6 +27,22 @@ void ApplicaMovimento(const std::string& dataValuta, const std::string& dataOper
                       const std::string& dA, const std::string& sospeso);
 void StornaMovimento(const std::string& dataValuta, const std::string& dataOper, double importo,
                      const std::string& dA, const std::string& sospeso);
+
+// The working balances, then `date` of the working dates (0, the 2 of operation or all 4), each
+// with its field of the buffer of .TOT: `copia(lavoro, totali)`, for the copies either way.
+template <class F> void CampiTotali(int date, F&& copia) {
+    RecTotali& t = Stato.Totali;
+    copia(Stato.SaldoAllineamento, t.SaldoAllineamento);
+    copia(Stato.SaldoValuta, t.SaldoValuta);
+    copia(Stato.SaldoOperazione, t.SaldoOperazione);
+    copia(Stato.SaldoUltimaData, t.SaldoUltimaData);
+    if (date < 2) return;
+    copia(Stato.PrimaDataOperazione, t.PrimaDataOperazione);
+    copia(Stato.UltimaDataOperazione, t.UltimaDataOperazione);
+    if (date < 4) return;
+    copia(Stato.PrimaDataValuta, t.PrimaDataValuta);
+    copia(Stato.UltimaDataValuta, t.UltimaDataValuta);
+}
 
 // Rebuilds the balances from .MOR, .MOV and the carried-forward balance, and writes .TOT.
 void RicalcolaTotali();

@@ -250,44 +250,15 @@ void CancellaFile(const std::string& nome) {
     if (unlink(RisolviNome(nome).c_str()) != 0) ErroreDiSistema();
 }
 
-short LeggiIntero(long numero, int canale) {
-    std::int16_t valore = 0;
-    ControllaCanale(canale, LarghezzaCampo(valore));
-    unsigned char byte[2];
-    LeggiByte(byte, sizeof byte, numero, canale);
-    DecodificaCampo(valore, byte);
-    return valore;
-}
-
-void ScriviIntero(short valore, long numero, int canale) {
-    std::int16_t campo = valore;
-    ControllaCanale(canale, LarghezzaCampo(campo));
-    unsigned char byte[2];
-    CodificaCampo(campo, byte);
-    ScriviByte(byte, sizeof byte, numero, canale);
-}
-
 short LeggiContatore(const std::string& nome) {
     int canale = CanaleLibero();
-    ApriRecord(nome, 2, canale);
-    try {
-        short n = LeggiIntero(1, canale);
-        ChiudiRecord(canale);
-        return n;
-    } catch (...) {
-        ChiudiRecord(canale);
-        throw;
-    }
+    RecIntero contatore;
+    ConRecord(nome, RecIntero::Lunghezza, canale, [&] { LeggiRecord(contatore, 1, canale); });
+    return contatore.Valore;
 }
 
 void ScriviContatore(const std::string& nome, short n) {
     int canale = CanaleLibero();
-    ApriRecord(nome, 2, canale);
-    try {
-        ScriviIntero(n, 1, canale);
-    } catch (...) {
-        ChiudiRecord(canale);
-        throw;
-    }
-    ChiudiRecord(canale);
+    ConRecord(nome, RecIntero::Lunghezza, canale,
+              [&] { ScriviRecord(RecIntero{n}, 1, canale); });
 }

@@ -120,9 +120,13 @@ void CancellaFile(const std::string& nome);
 // I/O error (57); 0 lets every write through.
 void GuastoAllaScrittura(long n);
 
-// A bare 16-bit integer on a channel of 2-byte records.
-short LeggiIntero(long numero, int canale);
-void ScriviIntero(short valore, long numero, int canale);
+// A bare 16-bit integer as a record: a counter file holds nothing else.
+struct RecIntero {
+    static constexpr std::size_t Lunghezza = 2;
+    std::int16_t Valore = 0;
+
+    template <class R, class F> static constexpr void Campi(R& r, F&& f) { f(r.Valore); }
+};
 
 // A counter file (.MOR, .NRC, .NRF, RecConti.dat, RecCausa.dat): the integer of record 1, on a
 // free channel opened and closed here. Missing or empty reads 0 and leaves an empty file.

@@ -6,11 +6,19 @@
 #include "shell/Avvio.h"
 #include "store/Cp1252.h"
 #include "store/Date.h"
+#include "store/FileRecord.h"
 #include "store/Guasto.h"
+#include "store/RecordAnagrafe.h"
+#include "store/RecordAssegni.h"
+#include "store/RecordCondizioni.h"
+#include "store/RecordRegistro.h"
 #include "store/Testo.h"
 #include "tools/SchermiProva.h"
 
+#include <charconv>
 #include <filesystem>
+#include <fstream>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -41,6 +49,66 @@ int Tasto(const std::string& carattere) {
     return static_cast<int>(CarattereCp1252(byte));
 }
 
+template <class T> void ScriviCampo(std::ostream& o, const T& campo) {
+    if constexpr (std::is_floating_point_v<T>) {
+        char testo[32];
+        auto fine = std::to_chars(testo, testo + sizeof testo, campo).ptr;
+        o.write(testo, fine - testo);
+    } else if constexpr (std::is_integral_v<T>) {
+        o << campo;
+    } else {
+        o << campo.Vista();
+    }
+}
+
+// The records of a file, one a line with its number and its fields in disk order between bars;
+// what is left past the last whole record is told in bytes.
+template <class R> void ScriviRecords(std::istream& file, std::ostream& o) {
+    unsigned char byte[R::Lunghezza];
+    for (long numero = 1;; ++numero) {
+        file.read(reinterpret_cast<char*>(byte), R::Lunghezza);
+        auto letti = static_cast<std::size_t>(file.gcount());
+        if (letti < R::Lunghezza) {
+            if (letti > 0) o << "+" << letti << " bytes\n";
+            return;
+        }
+        R record;
+        Decodifica(record, byte);
+        o << numero << " |";
+        R::Campi(record, [&o](const auto& campo) {
+            ScriviCampo(o, campo);
+            o << '|';
+        });
+        o << '\n';
+    }
+}
+
+using ScrittoreRecords = void (*)(std::istream&, std::ostream&);
+
+const std::map<std::string, ScrittoreRecords>& TipiRecord() {
+    static const std::map<std::string, ScrittoreRecords> tipi = {
+        {"Intero", &ScriviRecords<RecIntero>},
+        {"Movimento", &ScriviRecords<RecMovimento>},
+        {"Totali", &ScriviRecords<RecTotali>},
+        {"Riporto", &ScriviRecords<RecRiporto>},
+        {"Chiusura", &ScriviRecords<RecChiusura>},
+        {"Conto", &ScriviRecords<RecConto>},
+        {"Causale", &ScriviRecords<RecCausale>},
+        {"Valuta", &ScriviRecords<RecValuta>},
+        {"Imposta", &ScriviRecords<RecImposta>},
+        {"Accesso", &ScriviRecords<RecAccesso>},
+        {"Colori", &ScriviRecords<RecColori>},
+        {"Carnet", &ScriviRecords<RecCarnet>},
+        {"Assegno", &ScriviRecords<RecAssegno>},
+        {"TassiCreditori", &ScriviRecords<RecTassiCreditori>},
+        {"TassiDebitori", &ScriviRecords<RecTassiDebitori>},
+        {"OpzioniCalcolo", &ScriviRecords<RecOpzioniCalcolo>},
+        {"OneriPassivi", &ScriviRecords<RecOneriPassivi>},
+        {"SpeseVarie", &ScriviRecords<RecSpeseVarie>},
+    };
+    return tipi;
+}
+
 const char* NomeStato(StatoSchermo s) {
     switch (s) {
     case StatoSchermo::Scaricato:
@@ -55,8 +123,17 @@ const char* NomeStato(StatoSchermo s) {
     return "unloaded";
 }
 
+// A script being read: the one given to the driver, or one it includes.
+struct Sorgente {
+    std::istream* testo;
+    std::unique_ptr<std::ifstream> file; // an included script's own stream
+    fs::path cartella;                   // where its includes are looked for
+    std::string nome;                    // empty for the one given to the driver
+    int numeroRiga = 0;
+};
+
 struct Interprete {
-    Interprete(std::istream& copione, std::ostream& uscita);
+    Interprete(std::istream& copione, std::ostream& uscita, const fs::path& cartella);
     ~Interprete() { ImpostaPiattaforma(nullptr); }
     Interprete(const Interprete&) = delete;
     Interprete& operator=(const Interprete&) = delete;
@@ -98,8 +175,10 @@ struct Interprete {
     void State();
     void Messages();
     void Paper();
+    void Records();
+    void Include();
 
-    std::istream& copione;
+    std::vector<Sorgente> sorgenti;
     std::ostream& uscita;
     PiattaformaSenzaSchermo piattaforma;
     std::unique_ptr<Applicazione> applicazione;
@@ -109,7 +188,6 @@ struct Interprete {
     bool cwdCambiata = false;
     bool avviato = false;
     std::vector<Schermo*> modali;
-    int numeroRiga = 0;
     std::string riga;
     std::size_t pos = 0;
 };
@@ -127,12 +205,14 @@ const std::map<std::string, Comando>& Comandi() {
         {"click", &Interprete::Click},       {"select", &Interprete::Select},
         {"dblclick", &Interprete::DblClick}, {"print", &Interprete::Print},
         {"state", &Interprete::State},       {"messages", &Interprete::Messages},
-        {"paper", &Interprete::Paper},
+        {"paper", &Interprete::Paper},       {"records", &Interprete::Records},
+        {"include", &Interprete::Include},
     };
     return comandi;
 }
 
-Interprete::Interprete(std::istream& c, std::ostream& u) : copione(c), uscita(u) {
+Interprete::Interprete(std::istream& c, std::ostream& u, const fs::path& cartella) : uscita(u) {
+    sorgenti.push_back(Sorgente{&c, nullptr, cartella, "", 0});
     ImpostaPiattaforma(&piattaforma);
     // The command that showed a modal screen completes only when the lines run inside it have
     // taken the screen down.
@@ -148,8 +228,13 @@ Interprete::Interprete(std::istream& c, std::ostream& u) : copione(c), uscita(u)
 
 bool Interprete::EseguiProssima() {
     std::string linea;
-    while (std::getline(copione, linea)) {
-        ++numeroRiga;
+    for (;;) {
+        if (!std::getline(*sorgenti.back().testo, linea)) {
+            if (sorgenti.size() == 1) return false;
+            sorgenti.pop_back();
+            continue;
+        }
+        ++sorgenti.back().numeroRiga;
         if (!linea.empty() && linea.back() == '\r') linea.pop_back();
         auto inizio = linea.find_first_not_of(" \t");
         if (inizio == std::string::npos || linea[inizio] == '#') continue;
@@ -169,7 +254,6 @@ bool Interprete::EseguiProssima() {
         }
         return true;
     }
-    return false;
 }
 
 std::string Interprete::Parola() {
@@ -209,7 +293,9 @@ void Interprete::FineRiga() {
 }
 
 void Interprete::Rifiuta(const std::string& motivo) const {
-    throw FineCopione{1, "line " + std::to_string(numeroRiga) + ": " + motivo};
+    const Sorgente& s = sorgenti.back();
+    std::string dove = s.nome.empty() ? "" : s.nome + " ";
+    throw FineCopione{1, dove + "line " + std::to_string(s.numeroRiga) + ": " + motivo};
 }
 
 Schermo& Interprete::SchermoNoto(const std::string& nome) const {
@@ -482,13 +568,40 @@ void Interprete::Paper() {
     piattaforma.carta.clear();
 }
 
+void Interprete::Records() {
+    std::string tipo = Parola();
+    std::string nome = Testo();
+    FineRiga();
+    auto scrittore = TipiRecord().find(tipo);
+    if (scrittore == TipiRecord().end()) Rifiuta("unknown record " + tipo);
+    std::ifstream file(iniziale / nome, std::ios::binary);
+    if (!file) {
+        uscita << nome << ": missing\n";
+        return;
+    }
+    uscita << nome << ":\n";
+    scrittore->second(file, uscita);
+}
+
+void Interprete::Include() {
+    std::string nome = Testo();
+    FineRiga();
+    if (sorgenti.size() > 8) Rifiuta("includes nested too deep at " + nome);
+    fs::path percorso = sorgenti.back().cartella / nome;
+    auto file = std::make_unique<std::ifstream>(percorso);
+    if (!*file) Rifiuta("cannot read " + nome);
+    std::istream* testo = file.get();
+    sorgenti.push_back(Sorgente{testo, std::move(file), percorso.parent_path(), nome, 0});
+}
+
 } // namespace
 
-int EseguiCopione(std::istream& copione, std::ostream& uscita, std::ostream& errori) {
+int EseguiCopione(std::istream& copione, std::ostream& uscita, std::ostream& errori,
+                  const std::string& cartella) {
     int stato = 0;
     std::string motivo;
     {
-        Interprete interprete(copione, uscita);
+        Interprete interprete(copione, uscita, fs::current_path() / cartella);
         try {
             while (interprete.EseguiProssima()) {
             }
@@ -498,7 +611,8 @@ int EseguiCopione(std::istream& copione, std::ostream& uscita, std::ostream& err
         } catch (const std::exception& e) {
             // A failure of the driver's own, outside any user event (the file system under it).
             stato = 1;
-            motivo = "line " + std::to_string(interprete.numeroRiga) + ": " + e.what();
+            motivo =
+                "line " + std::to_string(interprete.sorgenti.back().numeroRiga) + ": " + e.what();
         }
     }
     uscita.flush();

@@ -32,6 +32,16 @@
 //                            add " on" or " off"
 //   state REF|SCREEN         enabled|disabled visible|hidden; unloaded|hidden|shown|modal
 //   messages, paper          what was shown, or printed, since the last time
+//   records KIND FILE        the records of a file, one a line: its number, then its fields in
+//                            disk order between bars (texts with their padding, numbers as
+//                            written); KIND is Intero (a counter), Movimento, Totali,
+//                            Riporto, Chiusura, Conto, Causale, Valuta, Imposta, Accesso,
+//                            Colori, Carnet, Assegno, TassiCreditori, TassiDebitori,
+//                            OpzioniCalcolo, OneriPassivi or SpeseVarie; FILE is relative to
+//                            the directory where the driver was started, as for `program`
+//   include FILE             runs the lines of FILE, relative to the directory of the script
+//                            that includes it, as if they stood here: a set-up that several
+//                            scripts share (not named *.script, which would run on its own)
 //
 // Tabs are the view's: the fields of every tab of a screen are reachable, the tab in front or not.
 // The user's commands act only on a screen that is shown and, while a modal screen is up, only
@@ -40,8 +50,11 @@
 // screen up, the next lines run inside it. Characters are typed in the program's code page.
 #include <istream>
 #include <ostream>
+#include <string>
 
 // Runs the script to its end, or until the program ends; returns the exit status: 0, or 1 after
 // a fault of the script (an unknown command, screen or control, a list line not found, a modal
-// screen still up at the end), whose reason goes to `errori`.
-int EseguiCopione(std::istream& copione, std::ostream& uscita, std::ostream& errori);
+// screen still up at the end), whose reason goes to `errori`. `cartella` is where the script's
+// includes are looked for.
+int EseguiCopione(std::istream& copione, std::ostream& uscita, std::ostream& errori,
+                  const std::string& cartella = ".");

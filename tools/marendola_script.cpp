@@ -3,6 +3,7 @@
 #include "tools/Copione.h"
 #include "tools/Memoria.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -22,5 +23,6 @@ int main(int argc, char** argv) {
         std::cerr << "marendola-script: cannot read " << nome << '\n';
         return 1;
     }
-    return EseguiCopione(copione, std::cout, std::cerr);
+    return EseguiCopione(copione, std::cout, std::cerr,
+                         std::filesystem::path(nome).parent_path().string());
 }

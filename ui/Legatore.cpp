@@ -23,6 +23,7 @@
 #include <QTabWidget>
 #include <QToolButton>
 
+#include <algorithm>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -63,8 +64,11 @@ struct ModelloRighe : QAbstractListModel {
     unsigned revisione = 0; // a control starts at 0 with no lines
 };
 
+struct TipoWidget;
+
 struct Legame {
     Controllo* c = nullptr;
+    const TipoWidget* tipo = nullptr;
     QPointer<QObject> oggetto;
     ModelloRighe* righe = nullptr; // lists
     unsigned revisione = 0;        // combos: the lines last written
@@ -194,93 +198,96 @@ bool Filtro::eventFilter(QObject* o, QEvent* e) {
     }
 }
 
-// Ties the user's side of one widget to its control.
-void Collega(Filtro& f, Legame& l) {
+// The user's clicks on a widget, as one model event each.
+auto Evento(Controllo* c, void (Controllo::*azione)()) {
+    return [c, azione] { EventoDaVista([c, azione] { (c->*azione)(); }); };
+}
+
+void CollegaCampo(Filtro& f, Legame& l) {
     Controllo* c = l.c;
-    QObject* o = l.oggetto;
-    auto evento = [c](void (Controllo::*azione)()) {
-        return [c, azione] { EventoDaVista([c, azione] { (c->*azione)(); }); };
-    };
-    if (auto* w = qobject_cast<QWidget*>(o)) {
-        f.controlli[w] = c;
-        w->installEventFilter(&f);
+    auto* campo = static_cast<QLineEdit*>(l.oggetto.data());
+    if (c->tipo == TipoControllo::Data) campo->setInputMask("99/99/9999;_");
+    QObject::connect(campo, &QLineEdit::textEdited, &f, [c, campo] {
+        EventoDaVista([c, campo] { c->SetText(TestoDi(*campo, *c)); });
+    });
+}
+
+void ScriviCampo(Legame& l) {
+    const Controllo& c = *l.c;
+    auto& campo = static_cast<QLineEdit&>(*l.oggetto);
+    if (c.tipo == TipoControllo::Campo) {
+        int massimo = c.MaxLength > 0 ? c.MaxLength : 32767;
+        if (campo.maxLength() != massimo) campo.setMaxLength(massimo);
     }
-    if (auto* campo = qobject_cast<QLineEdit*>(o)) {
-        if (c->tipo == TipoControllo::Data) campo->setInputMask("99/99/9999;_");
-        QObject::connect(campo, &QLineEdit::textEdited, &f, [c, campo] {
-            EventoDaVista([c, campo] { c->SetText(TestoDi(*campo, *c)); });
+    if (TestoDi(campo, c) != c.Text()) {
+        campo.setText(Q(c.Text()));
+        // An emptied date field takes the next digit in its first place, not after the mask.
+        if (c.tipo == TipoControllo::Data && c.Text() == DataVuotaMaschera)
+            campo.setCursorPosition(0);
+    }
+}
+
+void CollegaEtichetta(Filtro&, Legame& l) {
+    if (l.c->tipo != TipoControllo::Immagine)
+        static_cast<QLabel&>(*l.oggetto).setTextFormat(Qt::PlainText);
+}
+
+void ScriviEtichetta(Legame& l) {
+    const Controllo& c = *l.c;
+    auto& etichetta = static_cast<QLabel&>(*l.oggetto);
+    if (c.tipo != TipoControllo::Immagine) {
+        if (etichetta.text() != Q(c.Text())) etichetta.setText(Q(c.Text()));
+    } else if (l.immagine != c.Text()) {
+        l.immagine = c.Text();
+        etichetta.setPixmap(c.Text().empty() ? QPixmap() : QPixmap(Q(c.Text())));
+    }
+}
+
+void CollegaNiente(Filtro&, Legame&) {}
+
+void ScriviCornice(Legame& l) {
+    auto& cornice = static_cast<QGroupBox&>(*l.oggetto);
+    if (cornice.title() != Q(l.c->Text())) cornice.setTitle(Q(l.c->Text()));
+}
+
+void CollegaPulsante(Filtro& f, Legame& l) {
+    auto* pulsante = static_cast<QAbstractButton*>(l.oggetto.data());
+    // Enter and Escape belong to the model's keys, never to a dialog's default button.
+    if (auto* p = qobject_cast<QPushButton*>(pulsante)) {
+        p->setAutoDefault(false);
+        p->setDefault(false);
+    }
+    // The model keeps its option groups itself.
+    if (auto* opzione = qobject_cast<QRadioButton*>(pulsante)) opzione->setAutoExclusive(false);
+    QObject::connect(pulsante, &QAbstractButton::clicked, &f, Evento(l.c, &Controllo::Clicca));
+}
+
+void ScriviPulsante(Legame& l) {
+    const Controllo& c = *l.c;
+    auto& pulsante = static_cast<QAbstractButton&>(*l.oggetto);
+    bool faccia = c.tipo == TipoControllo::Pulsante && c.Text().empty();
+    if (!faccia && pulsante.text() != Q(c.Text())) pulsante.setText(Q(c.Text()));
+    if (pulsante.isCheckable() && pulsante.isChecked() != c.Value())
+        pulsante.setChecked(c.Value());
+}
+
+void CollegaCombo(Filtro& f, Legame& l) {
+    Controllo* c = l.c;
+    auto* combo = static_cast<QComboBox*>(l.oggetto.data());
+    QObject::connect(combo, &QComboBox::activated, &f,
+                     [c](int i) { EventoDaVista([c, i] { c->SetListIndex(i); }); });
+    if (QLineEdit* campo = combo->lineEdit()) {
+        f.controlli[campo] = c;
+        campo->installEventFilter(&f);
+        QObject::connect(campo, &QLineEdit::textEdited, &f, [c](const QString& t) {
+            EventoDaVista([c, t] { c->SetText(t.toStdString()); });
         });
-    } else if (auto* etichetta = qobject_cast<QLabel*>(o)) {
-        if (c->tipo != TipoControllo::Immagine) etichetta->setTextFormat(Qt::PlainText);
-    } else if (auto* combo = qobject_cast<QComboBox*>(o)) {
-        QObject::connect(combo, &QComboBox::activated, &f,
-                         [c](int i) { EventoDaVista([c, i] { c->SetListIndex(i); }); });
-        if (QLineEdit* campo = combo->lineEdit()) {
-            f.controlli[campo] = c;
-            campo->installEventFilter(&f);
-            QObject::connect(campo, &QLineEdit::textEdited, &f, [c](const QString& t) {
-                EventoDaVista([c, t] { c->SetText(t.toStdString()); });
-            });
-        }
-    } else if (auto* lista = qobject_cast<QListView*>(o)) {
-        l.righe = new ModelloRighe(&f);
-        lista->setModel(l.righe);
-        // One height for every line: 30000 lines cost no more than 30.
-        lista->setUniformItemSizes(true);
-        lista->setSelectionMode(QAbstractItemView::SingleSelection);
-        lista->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        // The lines are text at fixed columns.
-        QFont fisso("Courier New", lista->font().pointSize());
-        fisso.setStyleHint(QFont::TypeWriter);
-        lista->setFont(fisso);
-        QObject::connect(lista->selectionModel(), &QItemSelectionModel::currentChanged, &f,
-                         [c](const QModelIndex& i) {
-                             EventoDaVista([c, riga = i.row()] { c->SetListIndex(riga); });
-                         });
-        QObject::connect(lista, &QListView::doubleClicked, &f, evento(&Controllo::DoppioClic));
-    } else if (auto* pulsante = qobject_cast<QAbstractButton*>(o)) {
-        // Enter and Escape belong to the model's keys, never to a dialog's default button.
-        if (auto* p = qobject_cast<QPushButton*>(pulsante)) {
-            p->setAutoDefault(false);
-            p->setDefault(false);
-        }
-        // The model keeps its option groups itself.
-        if (auto* opzione = qobject_cast<QRadioButton*>(pulsante))
-            opzione->setAutoExclusive(false);
-        QObject::connect(pulsante, &QAbstractButton::clicked, &f, evento(&Controllo::Clicca));
-    } else if (auto* azione = qobject_cast<QAction*>(o)) {
-        // The classic menus make a separator of an entry captioned "-".
-        if (c->Text() == "-") azione->setSeparator(true);
-        QObject::connect(azione, &QAction::triggered, &f, evento(&Controllo::Clicca));
-    } else if (auto* menu = qobject_cast<QMenu*>(o)) {
-        // A menu clicks as it opens, so that its handler can set its entries first.
-        QObject::connect(menu, &QMenu::aboutToShow, &f, evento(&Controllo::Clicca));
     }
 }
 
-void ScriviAzione(QAction& a, const Controllo& c, bool conTesto) {
-    if (conTesto && !a.isSeparator() && a.text() != Q(c.Text())) a.setText(Q(c.Text()));
-    if (a.isEnabled() != c.Enabled) a.setEnabled(c.Enabled);
-    if (a.isVisible() != c.Visible) a.setVisible(c.Visible);
-    if (a.toolTip() != Q(c.ToolTipText) && !c.ToolTipText.empty()) a.setToolTip(Q(c.ToolTipText));
-}
-
-void ScriviRighe(QListView& lista, Legame& l) {
+void ScriviCombo(Legame& l) {
     const Controllo& c = *l.c;
-    int scorrimento = lista.verticalScrollBar()->value();
-    if (l.righe->Aggiorna(c)) lista.verticalScrollBar()->setValue(scorrimento);
-    if (lista.currentIndex().row() == c.ListIndex()) return;
-    if (c.ListIndex() < 0) {
-        lista.selectionModel()->clear();
-        return;
-    }
-    QModelIndex i = l.righe->index(c.ListIndex());
-    lista.selectionModel()->setCurrentIndex(i, QItemSelectionModel::ClearAndSelect);
-    lista.scrollTo(i);
-}
-
-void ScriviCombo(QComboBox& combo, Legame& l) {
-    const Controllo& c = *l.c;
+    auto& combo = static_cast<QComboBox&>(*l.oggetto);
     if (l.revisione != c.Revisione()) {
         l.revisione = c.Revisione();
         bool uguali = combo.count() == c.ListCount();
@@ -296,58 +303,133 @@ void ScriviCombo(QComboBox& combo, Legame& l) {
     if (combo.isEditable() && combo.currentText() != Q(c.Text())) combo.setEditText(Q(c.Text()));
 }
 
+void CollegaLista(Filtro& f, Legame& l) {
+    Controllo* c = l.c;
+    auto* lista = static_cast<QListView*>(l.oggetto.data());
+    l.righe = new ModelloRighe(&f);
+    lista->setModel(l.righe);
+    // One height for every line: 30000 lines cost no more than 30.
+    lista->setUniformItemSizes(true);
+    lista->setSelectionMode(QAbstractItemView::SingleSelection);
+    lista->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // The lines are text at fixed columns.
+    QFont fisso("Courier New", lista->font().pointSize());
+    fisso.setStyleHint(QFont::TypeWriter);
+    lista->setFont(fisso);
+    QObject::connect(lista->selectionModel(), &QItemSelectionModel::currentChanged, &f,
+                     [c](const QModelIndex& i) {
+                         EventoDaVista([c, riga = i.row()] { c->SetListIndex(riga); });
+                     });
+    QObject::connect(lista, &QListView::doubleClicked, &f, Evento(c, &Controllo::DoppioClic));
+}
+
+void ScriviLista(Legame& l) {
+    const Controllo& c = *l.c;
+    auto& lista = static_cast<QListView&>(*l.oggetto);
+    int scorrimento = lista.verticalScrollBar()->value();
+    if (l.righe->Aggiorna(c)) lista.verticalScrollBar()->setValue(scorrimento);
+    if (lista.currentIndex().row() == c.ListIndex()) return;
+    if (c.ListIndex() < 0) {
+        lista.selectionModel()->clear();
+        return;
+    }
+    QModelIndex i = l.righe->index(c.ListIndex());
+    lista.selectionModel()->setCurrentIndex(i, QItemSelectionModel::ClearAndSelect);
+    lista.scrollTo(i);
+}
+
+void ScriviAzione(QAction& a, const Controllo& c, bool conTesto) {
+    if (conTesto && !a.isSeparator() && a.text() != Q(c.Text())) a.setText(Q(c.Text()));
+    if (a.isEnabled() != c.Enabled) a.setEnabled(c.Enabled);
+    if (a.isVisible() != c.Visible) a.setVisible(c.Visible);
+    if (a.toolTip() != Q(c.ToolTipText) && !c.ToolTipText.empty()) a.setToolTip(Q(c.ToolTipText));
+}
+
+void CollegaVoce(Filtro& f, Legame& l) {
+    auto* azione = static_cast<QAction*>(l.oggetto.data());
+    // The classic menus make a separator of an entry captioned "-".
+    if (l.c->Text() == "-") azione->setSeparator(true);
+    QObject::connect(azione, &QAction::triggered, &f, Evento(l.c, &Controllo::Clicca));
+}
+
+void ScriviVoce(Legame& l) {
+    ScriviAzione(static_cast<QAction&>(*l.oggetto), *l.c, true);
+}
+
+void CollegaMenu(Filtro& f, Legame& l) {
+    // A menu clicks as it opens, so that its handler can set its entries first.
+    QObject::connect(static_cast<QMenu*>(l.oggetto.data()), &QMenu::aboutToShow, &f,
+                     Evento(l.c, &Controllo::Clicca));
+}
+
+void ScriviMenu(Legame& l) {
+    auto& menu = static_cast<QMenu&>(*l.oggetto);
+    if (menu.title() != Q(l.c->Text())) menu.setTitle(Q(l.c->Text()));
+    ScriviAzione(*menu.menuAction(), *l.c, false);
+}
+
+template <class... W> bool Di(const QObject* o) {
+    return (qobject_cast<const W*>(o) || ...);
+}
+
+// A QListWidget keeps its own items and takes no model.
+bool SoloListView(const QObject* o) {
+    return o && o->metaObject() == &QListView::staticMetaObject;
+}
+
+// The kinds of widget: which objects are one, the kinds of control each may stand for, how the
+// user's side is tied to the control and how the model is written to the widget. A menu is a
+// widget too, but it shows as it opens and is enabled and visible through its entry.
+struct TipoWidget {
+    bool (*e)(const QObject*);
+    std::vector<TipoControllo> tipi;
+    void (*collega)(Filtro&, Legame&);
+    void (*scrivi)(Legame&);
+    bool finestra = true;    // enabled, visible and tip written on the widget itself
+};
+
+const std::vector<TipoWidget>& TipiWidget() {
+    using T = TipoControllo;
+    static const std::vector<TipoWidget> tipi = {
+        {&Di<QLineEdit>, {T::Campo, T::Data}, &CollegaCampo, &ScriviCampo},
+        {&Di<QLabel>, {T::Etichetta, T::Immagine}, &CollegaEtichetta, &ScriviEtichetta},
+        {&Di<QGroupBox>, {T::Etichetta, T::Cornice}, &CollegaNiente, &ScriviCornice},
+        {&Di<QPushButton, QToolButton>, {T::Pulsante}, &CollegaPulsante, &ScriviPulsante},
+        {&Di<QRadioButton>, {T::Opzione}, &CollegaPulsante, &ScriviPulsante},
+        {&Di<QCheckBox>, {T::Casella}, &CollegaPulsante, &ScriviPulsante},
+        {&Di<QComboBox>, {T::Combo}, &CollegaCombo, &ScriviCombo},
+        {&SoloListView, {T::Lista}, &CollegaLista, &ScriviLista},
+        {&Di<QAction>, {T::Menu}, &CollegaVoce, &ScriviVoce},
+        {&Di<QMenu>, {T::Menu}, &CollegaMenu, &ScriviMenu, false},
+    };
+    return tipi;
+}
+
+const TipoWidget* TipoDi(TipoControllo tipo, const QObject* o) {
+    for (const TipoWidget& t : TipiWidget())
+        if (t.e(o) && std::find(t.tipi.begin(), t.tipi.end(), tipo) != t.tipi.end()) return &t;
+    return nullptr;
+}
+
+// Ties the user's side of one widget to its control.
+void Collega(Filtro& f, Legame& l) {
+    if (auto* w = qobject_cast<QWidget*>(l.oggetto.data())) {
+        f.controlli[w] = l.c;
+        w->installEventFilter(&f);
+    }
+    l.tipo->collega(f, l);
+}
+
 // Model to view for one control.
 void Scrivi(Legame& l) {
-    QObject* o = l.oggetto;
-    if (!o) return;
+    if (!l.oggetto) return;
     const Controllo& c = *l.c;
-    if (auto* azione = qobject_cast<QAction*>(o)) {
-        ScriviAzione(*azione, c, true);
-        return;
+    if (auto* w = qobject_cast<QWidget*>(l.oggetto.data()); w && l.tipo->finestra) {
+        if (w->testAttribute(Qt::WA_ForceDisabled) == c.Enabled) w->setEnabled(c.Enabled);
+        if (w->isHidden() == c.Visible) w->setVisible(c.Visible);
+        if (w->toolTip() != Q(c.ToolTipText)) w->setToolTip(Q(c.ToolTipText));
     }
-    if (auto* menu = qobject_cast<QMenu*>(o)) {
-        if (menu->title() != Q(c.Text())) menu->setTitle(Q(c.Text()));
-        ScriviAzione(*menu->menuAction(), c, false);
-        return;
-    }
-    auto* w = qobject_cast<QWidget*>(o);
-    if (!w) return;
-    if (w->testAttribute(Qt::WA_ForceDisabled) == c.Enabled) w->setEnabled(c.Enabled);
-    if (w->isHidden() == c.Visible) w->setVisible(c.Visible);
-    if (w->toolTip() != Q(c.ToolTipText)) w->setToolTip(Q(c.ToolTipText));
-
-    if (auto* campo = qobject_cast<QLineEdit*>(w)) {
-        if (c.tipo == TipoControllo::Campo) {
-            int massimo = c.MaxLength > 0 ? c.MaxLength : 32767;
-            if (campo->maxLength() != massimo) campo->setMaxLength(massimo);
-        }
-        if (TestoDi(*campo, c) != c.Text()) {
-            campo->setText(Q(c.Text()));
-            // An emptied date field takes the next digit in its first place, not after the mask.
-            if (c.tipo == TipoControllo::Data && c.Text() == DataVuotaMaschera)
-                campo->setCursorPosition(0);
-        }
-    } else if (auto* etichetta = qobject_cast<QLabel*>(w)) {
-        if (c.tipo == TipoControllo::Immagine) {
-            if (l.immagine != c.Text()) {
-                l.immagine = c.Text();
-                etichetta->setPixmap(c.Text().empty() ? QPixmap() : QPixmap(Q(c.Text())));
-            }
-        } else if (etichetta->text() != Q(c.Text())) {
-            etichetta->setText(Q(c.Text()));
-        }
-    } else if (auto* cornice = qobject_cast<QGroupBox*>(w)) {
-        if (cornice->title() != Q(c.Text())) cornice->setTitle(Q(c.Text()));
-    } else if (auto* pulsante = qobject_cast<QAbstractButton*>(w)) {
-        bool faccia = c.tipo == TipoControllo::Pulsante && c.Text().empty();
-        if (!faccia && pulsante->text() != Q(c.Text())) pulsante->setText(Q(c.Text()));
-        if (pulsante->isCheckable() && pulsante->isChecked() != c.Value())
-            pulsante->setChecked(c.Value());
-    } else if (auto* combo = qobject_cast<QComboBox*>(w)) {
-        ScriviCombo(*combo, l);
-    } else if (auto* lista = qobject_cast<QListView*>(w)) {
-        ScriviRighe(*lista, l);
-    }
+    l.tipo->scrivi(l);
 }
 
 QWidget* WidgetDi(const LegameSchermo& ls, const Controllo* c) {
@@ -395,31 +477,7 @@ QString NomeWidget(const Controllo& c) {
 }
 
 bool TipoAdatto(TipoControllo tipo, const QObject* o) {
-    switch (tipo) {
-    case TipoControllo::Campo:
-    case TipoControllo::Data:
-        return qobject_cast<const QLineEdit*>(o);
-    case TipoControllo::Etichetta:
-        return qobject_cast<const QLabel*>(o) || qobject_cast<const QGroupBox*>(o);
-    case TipoControllo::Pulsante:
-        return qobject_cast<const QPushButton*>(o) || qobject_cast<const QToolButton*>(o);
-    case TipoControllo::Menu:
-        return qobject_cast<const QAction*>(o) || qobject_cast<const QMenu*>(o);
-    case TipoControllo::Opzione:
-        return qobject_cast<const QRadioButton*>(o);
-    case TipoControllo::Casella:
-        return qobject_cast<const QCheckBox*>(o);
-    case TipoControllo::Lista:
-        // A QListWidget keeps its own items and takes no model.
-        return o && o->metaObject() == &QListView::staticMetaObject;
-    case TipoControllo::Combo:
-        return qobject_cast<const QComboBox*>(o);
-    case TipoControllo::Immagine:
-        return qobject_cast<const QLabel*>(o);
-    case TipoControllo::Cornice:
-        return qobject_cast<const QGroupBox*>(o);
-    }
-    return false;
+    return TipoDi(tipo, o) != nullptr;
 }
 
 void Lega(Schermo& schermo, QWidget* radice) {
@@ -432,9 +490,11 @@ void Lega(Schermo& schermo, QWidget* radice) {
     QWidget* precedente = nullptr;
     for (Controllo* c : schermo.Controlli()) {
         QObject* o = radice->findChild<QObject*>(NomeWidget(*c));
-        if (!o || !TipoAdatto(c->tipo, o)) continue;
+        const TipoWidget* tipo = o ? TipoDi(c->tipo, o) : nullptr;
+        if (!tipo) continue;
         Legame& l = ls->legami.emplace_back();
         l.c = c;
+        l.tipo = tipo;
         l.oggetto = o;
         Collega(*ls->filtro, l);
         // Shift+Tab walks back the same order as Tab.
@@ -474,8 +534,9 @@ void EventoDaVista(const std::function<void()>& evento) {
 
 void AggiornaViste() {
     BloccoEventi blocco;
+    // A screen that isn't shown is written when it is: its widgets can't be seen before.
     for (auto& ls : Legati()) {
-        if (!ls->radice) continue;
+        if (!ls->radice || !ls->schermo->Mostrato()) continue;
         QWidget* finestra = CorniceDi(*ls->radice);
         if (finestra && finestra->windowTitle() != Q(ls->schermo->Caption))
             finestra->setWindowTitle(Q(ls->schermo->Caption));

@@ -41,9 +41,10 @@ QWidget* RadiceDi(const Schermo& schermo);
 Schermo* SchermoDi(const QWidget* radice);
 
 // The one entrance for what the user does: ignored while the widgets are being written by the
-// program itself, otherwise run through EseguiEvento; then every screen is redrawn from its model.
+// program itself, otherwise run through EseguiEvento; then every shown screen is redrawn from its
+// model.
 void EventoDaVista(const std::function<void()>& evento);
-// Model to view, for every screen that is tied.
+// Model to view, for every screen that is tied and shown: a hidden one is written when it shows.
 void AggiornaViste();
 
 // While one lives, what the widgets report is not the user's doing and doesn't reach the models.

@@ -1,17 +1,10 @@
-#include "AmbienteRegistro.h"
+#include "tests/Ambiente.h"
 
 #include "store/Testo.h"
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 // Today is 05/07/2001; amounts with two decimals at the rate 1.
 
 namespace {
-const std::string kDomanda = "[AVVERTIMENTO!] Attenzione il movimento selezionato verrà "
-                             "cancellato, ...Vuoi Continuare? -> ";
-
 // Entered in date order, so that each is line n - 1 of the list by operation date. All of them
 // come to 1000 - 200 + 300 - 50 + 25.50 = 1075.50; without the third, 775.50.
 std::vector<RecMovimento> Cinque() {
@@ -23,14 +16,9 @@ std::vector<RecMovimento> Cinque() {
         Mov(5, "05/05/2001", "05/05/2001", 25.5, "E", "S", "VS"),
     };
 }
-
-std::string Contenuto(const std::string& file) {
-    std::ifstream in(file, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
 } // namespace
 
-class CancellazioneTest : public AmbienteRegistro {
+class CancellazioneTest : public AmbienteConto {
 protected:
     Form9& f() { return app->Form9; }
 
@@ -54,37 +42,6 @@ protected:
     }
 };
 
-TEST_F(CancellazioneTest, TerzoDiCinqueCompattaERinumera) {
-    ScriviMovimenti(Cinque());
-    f().S.Show();
-    Cancella(2, Risposta::OK);
-
-    EXPECT_EQ(porta.messaggi, std::vector<std::string>{kDomanda + "OK"});
-    std::vector<RecMovimento> mov = Leggi(".MOV");
-    ASSERT_EQ(mov.size(), 5u);
-    EXPECT_EQ(Numeri(mov), (std::vector<int>{1, 2, 3, 4, 5}));
-    EXPECT_EQ(RTrim(mov[2].DescMovim), "movimento 4");
-    EXPECT_EQ(RTrim(mov[3].DescMovim), "movimento 5");
-    // The former record 5 stays behind the count, as it was.
-    EXPECT_EQ(RTrim(mov[4].DescMovim), "movimento 5");
-    EXPECT_EQ(LeggiContatore(File(".MOR")), 4);
-    EXPECT_EQ(Stato.NumMovimenti, 4);
-    EXPECT_EQ(Stato.Movimenti[3].NrOper, 3);
-    EXPECT_EQ(RTrim(Stato.Movimenti[3].DescMovim), "movimento 4");
-
-    EXPECT_EQ(NumeriInLista(f().ElencoMovim), (std::vector<int>{1, 2, 3, 4}));
-    std::vector<RecMovimento> ord = Leggi(".Ord");
-    ASSERT_GE(ord.size(), 5u);
-    EXPECT_EQ(Numeri(ord).at(3), 4);
-    EXPECT_EQ(Numeri(ord).at(4), 0);
-
-    // Loaded into the line, the movement left the balances; deleted, it stays out.
-    EXPECT_EQ(Stato.SaldoUltimaData, 775.5);
-    EXPECT_EQ(app->MDIForm1.Saldi(4).Text(), "775,50");
-    EXPECT_EQ(LeggiTotali().SaldoUltimaData, 775.5);
-    RigaVuota();
-}
-
 TEST_F(CancellazioneTest, UnicoMovimentoLasciaIlRecordOltreIlConteggio) {
     ScriviMovimenti({Mov(1, "01/03/2001", "01/03/2001", 100, "E", "N")});
     f().S.Show();
@@ -101,28 +58,6 @@ TEST_F(CancellazioneTest, UnicoMovimentoLasciaIlRecordOltreIlConteggio) {
     EXPECT_EQ(Stato.SaldoUltimaData, 0);
     EXPECT_EQ(app->MDIForm1.Saldi(0).Text(), "0,00");
     RigaVuota();
-}
-
-TEST_F(CancellazioneTest, AnnullaLasciaIFileMaISaldiSenzaIlMovimento) {
-    ScriviMovimenti(Cinque());
-    f().S.Show();
-    const std::string mov = Contenuto(File(".MOV"));
-    const std::string mor = Contenuto(File(".MOR"));
-    Cancella(2, Risposta::Annulla);
-
-    EXPECT_EQ(porta.messaggi, std::vector<std::string>{kDomanda + "Annulla"});
-    EXPECT_EQ(Contenuto(File(".MOV")), mov);
-    EXPECT_EQ(Contenuto(File(".MOR")), mor);
-    EXPECT_EQ(Stato.NumMovimenti, 5);
-    EXPECT_EQ(NumeriInLista(f().ElencoMovim), (std::vector<int>{1, 2, 3, 4, 5}));
-    EXPECT_EQ(app->MDIForm1.Saldi(4).Text(), "775,50");
-    EXPECT_EQ(LeggiTotali().SaldoUltimaData, 775.5);
-    RigaVuota();
-
-    // The next load counts it again.
-    f().S.Hide();
-    f().S.Show();
-    EXPECT_EQ(app->MDIForm1.Saldi(4).Text(), "1.075,50");
 }
 
 TEST_F(CancellazioneTest, PerValutaRiempieLaListaPerValuta) {

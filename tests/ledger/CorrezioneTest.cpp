@@ -1,4 +1,4 @@
-#include "AmbienteRegistro.h"
+#include "tests/Ambiente.h"
 
 #include "store/Testo.h"
 
@@ -6,12 +6,6 @@
 // date order, so that a line's place in Form11 is also the movement's record in .MOV.
 
 namespace {
-const std::string kRifiuto = "[Avvertimento] Questa funzione funziona solo se tutti i movimenti "
-                             "sono inclusi nella lista -> OK";
-
-// The last n characters of a line.
-std::string Coda(const std::string& riga, std::size_t n) { return riga.substr(riga.size() - n); }
-
 std::vector<RecMovimento> Cinque() {
     return {
         Mov(1, "10/01/2001", "10/01/2001", 1000, "E", "N", "VS"),
@@ -23,7 +17,7 @@ std::vector<RecMovimento> Cinque() {
 }
 } // namespace
 
-class CorrezioneTest : public AmbienteRegistro {
+class CorrezioneTest : public AmbienteConto {
 protected:
     Form11& l() { return app->Form11; }
     Form20& c() { return app->Form20; }
@@ -46,83 +40,16 @@ protected:
     }
 };
 
-TEST_F(CorrezioneTest, ImportoDa100A150SottraeIlNuovoFinoAlCaricamento) {
-    Apri({Mov(1, "01/03/2001", "01/03/2001", 100, "E", "N", "VS", "12"),
-          Mov(2, "02/03/2001", "02/03/2001", 40, "E", "N", "PR")});
-    auto& p = app->MDIForm1;
-    ASSERT_EQ(p.Saldi(4).Text(), "140,00");
-
+TEST_F(CorrezioneTest, ImportoMostratoNellaValutaInUsoEMemorizzatoInEuro) {
+    Stato.Cambio = 2;
+    Apri({Mov(1, "01/03/2001", "01/03/2001", 100, "E", "N")});
     DoppioClic(1);
-    ASSERT_TRUE(c().S.Mostrato());
-    EXPECT_EQ(c().NrOper.Text(), "1");
-    EXPECT_EQ(c().DataOper.Text(), "01/03/2001");
-    EXPECT_EQ(c().DataValuta.Text(), "01/03/2001");
-    EXPECT_EQ(RTrim(c().Causale.Text()), "VS");
-    EXPECT_EQ(RTrim(c().DescrCausale.Text()), "Versamento contanti in ba");
-    EXPECT_EQ(c().Sospeso.Text(), "N");
-    EXPECT_EQ(c().D_A.Text(), "E");
-    EXPECT_EQ(c().Annullato.Text(), "N");
-    EXPECT_EQ(c().IMPORTO.Text(), "100,00");
-    EXPECT_EQ(RTrim(c().NrDoc.Text()), "12");
-    EXPECT_EQ(RTrim(c().DescMovim.Text()), "movimento 1");
-
-    c().IMPORTO.SetText("150");
+    // 100 Euro at the rate 2.
+    EXPECT_EQ(c().IMPORTO.Text(), "200,00");
+    c().IMPORTO.SetText("300");
     c().OK.Clicca();
-
-    EXPECT_FALSE(c().S.Caricato());
-    std::vector<RecMovimento> mov = Leggi(".MOV");
-    ASSERT_EQ(mov.size(), 2u);
-    EXPECT_EQ(mov[0].NrOper, 1);
-    EXPECT_EQ(mov[0].IMPORTO, 150);
-    EXPECT_EQ(Leggi(".Ord")[0].IMPORTO, 150);
-    EXPECT_EQ(Coda(app->Form9.ElencoMovim.List(0), 17), "         150,00 *");
-
-    // The old 100 stays in and the new 150 comes out: 140 - 150.
-    EXPECT_EQ(Stato.SaldoUltimaData, -10);
-    EXPECT_EQ(Stato.SaldoAllineamento, -10);
-    EXPECT_EQ(Stato.SaldoOperazione, -10);
-    EXPECT_EQ(Stato.SaldoValuta, -10);
-    EXPECT_EQ(LeggiTotali().SaldoUltimaData, -10);
-    // The panel follows at the next drawing, as pulisci makes.
-    EXPECT_EQ(p.Saldi(4).Text(), "140,00");
-    app->Form9.pulisci.Clicca();
-    EXPECT_EQ(p.Saldi(4).Text(), "-10,00");
-    EXPECT_EQ(p.Saldi(1).Text(), "-10,00");
-
-    // Loaded again, the account is right: 150 + 40.
-    app->Form9.S.Hide();
-    app->Form9.S.Show();
-    EXPECT_EQ(Stato.SaldoUltimaData, 190);
-    EXPECT_EQ(p.Saldi(4).Text(), "190,00");
-}
-
-TEST_F(CorrezioneTest, AnnullatoSMarcaLaListaPerValutaSenzaToccareISaldi) {
-    Apri({Mov(1, "01/03/2001", "01/03/2001", 100, "E", "S"),
-          Mov(2, "02/03/2001", "02/03/2001", 40, "U", "S")});
-    DoppioClic(2);
-    c().Annullato.SetText("S");
-    c().OK.Clicca();
-
-    EXPECT_EQ(Leggi(".MOV")[1].Annullato, "S");
-    app->Form9.Command2.Clicca();
-    const auto& righe = app->Form9.elencoValuta.Righe();
-    ASSERT_EQ(righe.size(), 2u);
-    EXPECT_EQ(Coda(righe[0], 8), "  100,00");
-    EXPECT_EQ(Coda(righe[1], 9), "  40,00 *");
-
-    app->Form9.S.Hide();
-    app->Form9.S.Show();
-    EXPECT_EQ(Stato.SaldoUltimaData, 60);
-    EXPECT_EQ(Stato.SaldoOperazione, 60);
-}
-
-TEST_F(CorrezioneTest, ListaFiltrataRifiutaLaCorrezione) {
-    Apri(Cinque());
-    // Two of five listed: 9 lines, and 9 - 5 is below 5.
-    Filtra("01/02/2001", "31/03/2001");
-    DoppioClic(1);
-    EXPECT_EQ(porta.messaggi, std::vector<std::string>{kRifiuto});
-    EXPECT_FALSE(c().S.Caricato());
+    // 300 / 2.
+    EXPECT_EQ(Leggi(".MOV")[0].IMPORTO, 150);
 }
 
 TEST_F(CorrezioneTest, ListaAppenaFiltrataPassaEPrendeIlRecordDelPosto) {

@@ -1,7 +1,6 @@
-#include "AmbienteRegistro.h"
+#include "tests/Ambiente.h"
 
 #include "ledger/ElencoMovimenti.h"
-#include "tests/NumeroGuasto.h"
 
 // Today is 05/07/2001; amounts with two decimals at the rate 1. Causale VS reads "Versamento
 // contanti" in the list (its first 20 characters, trimmed), PR "Prelievo".
@@ -26,7 +25,7 @@ std::string Trenta(const std::string& testo) {
 }
 } // namespace
 
-class ElencoTest : public AmbienteRegistro {
+class ElencoTest : public AmbienteConto {
 protected:
     Form11& l() { return app->Form11; }
 
@@ -47,36 +46,6 @@ protected:
 
     const std::vector<std::string>& Righe() { return l().List1.Righe(); }
 };
-
-TEST_F(ElencoTest, TuttiIMovimentiConRiportoEChiusura) {
-    Apri(Cinque(), 100);
-    EXPECT_EQ(Stato.ElencoAperto, 1);
-    EXPECT_EQ(l().DataOper.Text(), "10/01/2001");
-    EXPECT_EQ(l().DataFinale.Text(), "05/05/2001");
-    EXPECT_EQ(l().Combo1.Text(), " TUTTE");
-
-    const std::vector<std::string> attese = {
-        "31/12/2000" + Sp(22) + Sp(9) + "100,00" + Sp(9) + "100,00" +
-            "  Riporto Chiusura precedente",
-        "10/01/2001  10/01/2001" + Sp(12) + Sp(7) + "1.000,00" + Sp(7) + "1.100,00" +
-            "  Versamento contanti  " + " " + Trenta("movimento 1"),
-        "15/02/2001  16/02/2001" + Sp(1) + Sp(9) + "200,00" + Sp(11) + Sp(9) + "900,00" +
-            "  Prelievo  " + "7 " + Trenta("movimento 2"),
-        "20/03/2001  20/03/2001" + Sp(12) + Sp(9) + "300,00" + Sp(7) + "1.200,00" +
-            "  Versamento contanti  " + " " + Trenta("movimento 3"),
-        "10/04/2001  10/04/2001" + Sp(1) + Sp(10) + "50,00" + Sp(11) + Sp(7) + "1.150,00" +
-            "  Prelievo  " + " " + Trenta("movimento 4"),
-        "05/05/2001  05/05/2001" + Sp(12) + Sp(10) + "25,50" + Sp(7) + "1.175,50" +
-            "  Versamento contanti  " + " " + Trenta("movimento 5"),
-        std::string(86, '-'),
-        "Riporto saldo movimenti non elencati " + Sp(12) + Sp(11) + "0,00" + "  = Euro 0,00",
-        std::string(86, '-'),
-        "Saldo Contabile         " + Sp(27) + Sp(5) + "1.175,50" + "  = Euro 1.175,5",
-        Sp(68) + "nr. movimenti: 5",
-        "  ",
-    };
-    EXPECT_EQ(Righe(), attese);
-}
 
 struct CasoRiporto {
     const char* nome;
@@ -120,36 +89,6 @@ TEST_P(RiportoTest, RigaZeroEPrimoSaldo) {
     EXPECT_EQ(Righe()[0], c.riga);
     // The running balance starts from the carried amount.
     EXPECT_EQ(Righe()[1].substr(49, 15), c.primoSaldo);
-}
-
-TEST_F(ElencoTest, DateRistretteContanoNonElencatiPrimaEDopo) {
-    Apri(Cinque(), 100);
-    Filtra("01/02/2001", "31/03/2001");
-    // Listed 2 and 3: 100 - 200 = -100, then 200. Left out: 1000 before, -50 and 25.50 after.
-    ASSERT_EQ(l().List1.ListCount(), 9);
-    EXPECT_EQ(Righe()[1].substr(49, 15), Sp(8) + "-100,00");
-    EXPECT_EQ(Righe()[2].substr(49, 15), Sp(9) + "200,00");
-    EXPECT_EQ(Righe()[4], "Riporto saldo movimenti non elencati " + Sp(12) + Sp(9) + "975,50" +
-                              "  = Euro 975,50");
-    EXPECT_EQ(Righe()[6], "Saldo Contabile         " + Sp(27) + Sp(5) + "1.175,50" +
-                              "  = Euro 1.175,5");
-    EXPECT_EQ(Righe()[7], Sp(68) + "nr. movimenti: 2");
-}
-
-TEST_F(ElencoTest, FiltroCausaleSaldoParzialeSaldoContabileIntero) {
-    Apri(Cinque(), 100);
-    ASSERT_EQ(l().Combo1.Righe(),
-              (std::vector<std::string>{" TUTTE", Trenta("Prelievo").substr(0, 25),
-                                        "Versamento contanti in ba"}));
-    Filtra("10/01/2001", "05/05/2001", 1);
-    // PR only: 100 - 200 = -100, -150. Left out: 1000 + 300 + 25.50 = 1325.50.
-    ASSERT_EQ(l().List1.ListCount(), 9);
-    EXPECT_EQ(Righe()[1].substr(0, 10), "15/02/2001");
-    EXPECT_EQ(Righe()[2].substr(49, 15), Sp(8) + "-150,00");
-    EXPECT_EQ(Righe()[4], "Riporto saldo movimenti non elencati " + Sp(12) + Sp(7) +
-                              "1.325,50" + "  = Euro 1.325,50");
-    EXPECT_EQ(Righe()[6], "Saldo Contabile         " + Sp(27) + Sp(5) + "1.175,50" +
-                              "  = Euro 1.175,5");
 }
 
 TEST_F(ElencoTest, DueCausaliConLaStessaDescrizioneVinceLaPrima) {
@@ -213,30 +152,6 @@ TEST_F(ElencoTest, AssegnoAggiungeLaRigaDelDettaglioEContaNeiMovimenti) {
     EXPECT_EQ(Righe()[2], Sp(66) + "Affitto marzo");
     EXPECT_EQ(Righe()[3].substr(0, 10), "02/03/2001");
     EXPECT_EQ(Righe()[9], Sp(68) + "nr. movimenti: 4");
-}
-
-TEST_F(ElencoTest, TuttiPrendeLeDateDelContoEscAbbassaIlFlag) {
-    // The first and last dates as the register leaves them in .TOT.
-    RecTotali totali;
-    totali.PrimaDataOperazione = "10/01/2001";
-    totali.UltimaDataOperazione = "05/05/2001";
-    ApriRecord(File(".TOT"), RecTotali::Lunghezza, 1);
-    ScriviRecord(totali, 1, 1);
-    ChiudiRecord(1);
-    Apri(Cinque(), 100);
-    Filtra("01/02/2001", "31/03/2001");
-    ASSERT_EQ(l().List1.ListCount(), 9);
-    l().Tutti.Clicca();
-    EXPECT_EQ(l().DataOper.Text(), "10/01/2001");
-    EXPECT_EQ(l().DataFinale.Text(), "05/05/2001");
-    EXPECT_EQ(l().List1.ListCount(), 12);
-
-    l().S.Hide();
-    l().S.Show();
-    EXPECT_EQ(Stato.ElencoAperto, 1);
-    l().Esc.Clicca();
-    EXPECT_EQ(Stato.ElencoAperto, 0);
-    EXPECT_FALSE(l().S.Caricato());
 }
 
 TEST_F(ElencoTest, DataDellaSelezioneNonValidaFallisceDopoIlRiporto) {

@@ -1,4 +1,4 @@
-#include "AmbienteRegistro.h"
+#include "tests/Ambiente.h"
 
 #include "ledger/Immissione.h"
 #include "ledger/Registro.h"
@@ -15,19 +15,14 @@ const std::string dataErrata =
     "numeri con una sola cifra. -> OK";
 } // namespace
 
-class ImmissioneTest : public AmbienteRegistro {
+class ImmissioneTest : public AmbienteConto {
 protected:
     void SetUp() override {
-        AmbienteRegistro::SetUp();
-        Stato.Causali[1].Sospeso = "S";
-        Stato.Causali[1].DareAvere = "E";
-        Stato.Causali[2].Sospeso = "N";
-        Stato.Causali[2].DareAvere = "U";
+        AmbienteConto::SetUp();
+        Causale(1, "VS", "Versamento contanti in banca", "S", "E");
+        Causale(2, "PR", "Prelievo", "N", "U");
+        Causale(3, "GC", "GIROCONTO", "S", "U");
         Stato.NumCausali = 3;
-        Stato.Causali[3].CodCausale = "GC";
-        Stato.Causali[3].DescCausale = "GIROCONTO";
-        Stato.Causali[3].Sospeso = "S";
-        Stato.Causali[3].DareAvere = "U";
     }
 
     Form9& f() { return app->Form9; }
@@ -130,49 +125,6 @@ INSTANTIATE_TEST_SUITE_P(
                     "02/07/2001", true}),
     [](const auto& info) { return std::string(info.param.nome); });
 
-TEST_F(ImmissioneTest, NuovoMovimentoMemorizzatoERigaVuota) {
-    f().S.Show();
-    Riga("01/07/2001", "10/07/2001", "PR", "1.234,56", "A-17", "Bolletta");
-    f().OK.Clicca();
-
-    ASSERT_EQ(Stato.NumMovimenti, 1);
-    EXPECT_EQ(LeggiContatore(File(".MOR")), 1);
-    auto mov = Leggi(".MOV");
-    ASSERT_EQ(mov.size(), 1u);
-    const RecMovimento& m = mov[0];
-    EXPECT_EQ(m.NrOper, 1);
-    EXPECT_EQ(m.DataOper, "01/07/2001");
-    EXPECT_EQ(m.DataValuta, "10/07/2001");
-    EXPECT_EQ(m.Causale, "PR   ");
-    EXPECT_DOUBLE_EQ(m.IMPORTO, 1234.56);
-    EXPECT_EQ(m.NrDoc, "A-17    ");
-    EXPECT_EQ(m.DescMovim.Testo(), Giustifica("Bolletta", 30));
-    EXPECT_EQ(m.Sospeso, "N");
-    EXPECT_EQ(m.D_A, "U");
-    EXPECT_EQ(m.Annullato, "N");
-
-    EXPECT_EQ(f().ElencoMovim.Righe(),
-              (std::vector<std::string>{" 732548  01/07/2001 10/07/2001 0001 Prelievo"
-                                        "              N   U      A-17        1.234,56 *"}));
-    // An outgoing aligned movement, post-dated by value: the value balance doesn't see it yet.
-    EXPECT_EQ(Saldi(), (std::vector<double>{-1234.56, -1234.56, 0, -1234.56}));
-    EXPECT_EQ(SaldiTot(), Saldi());
-    EXPECT_EQ(app->MDIForm1.Saldi(1).Text(), "-1.234,56");
-
-    for (Controllo* c : {&f().DataOper, &f().DataValuta})
-        EXPECT_EQ(c->Text(), "__/__/____") << c->nome;
-    for (Controllo* c : {&f().Causale, &f().DescrCausale, &f().IMPORTO, &f().NrDoc,
-                         &f().DescMovim, &f().Sospeso, &f().D_A})
-        EXPECT_EQ(c->Text(), "") << c->nome;
-    EXPECT_FALSE(f().Del.Enabled);
-    EXPECT_TRUE(f().DataOper.HaFuoco());
-    EXPECT_EQ(f().NrOper.Text(), "2");
-    EXPECT_FALSE(porta.clessidra);
-    EXPECT_EQ(f().DataInizSel.Text(), "01/07/2001");
-    EXPECT_EQ(f().DataFineSel.Text(), "01/07/2001");
-    EXPECT_EQ(Numeri(Leggi(".Ord")), (std::vector<int>{1, 0}));
-}
-
 TEST_F(ImmissioneTest, ImportoDivisoPerIlCambioEMostratoMoltiplicato) {
     Stato.Cambio = 1936.27;
     f().S.Show();
@@ -212,50 +164,33 @@ TEST_F(ImmissioneTest, PostoDiAppoggioConAnnullatoLoConserva) {
     EXPECT_EQ(Leggi(".MOV").at(0).Annullato, "S");
 }
 
-TEST_F(ImmissioneTest, CambioDellUltimoMovimentoNonNeAggiungeUno) {
+// The change of a movement in the line is a script; here what the script doesn't meet: the
+// last movement, marked for elimination, on a table with no room past it.
+TEST_F(ImmissioneTest, CambioDellUltimoMovimentoMarcatoNonNeAggiungeUno) {
     ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "S"),
                      Mov(2, "02/07/2001", "02/07/2001", 40, "U", "N", "PR", "", "S")});
     f().S.Show();
-    EXPECT_EQ(Saldi(), (std::vector<double>{-40, 60, 60, 60}));
-
     Richiama(2);
-    EXPECT_EQ(Stato.MovimentoCorrente, 2);
-    EXPECT_EQ(f().NrOper.Text(), "2");
-    EXPECT_EQ(f().Causale.Text(), "PR");
-    EXPECT_EQ(f().DescrCausale.Text(), "Prelievo");
-    EXPECT_EQ(f().IMPORTO.Text(), "40,00");
-    EXPECT_EQ(f().DescMovim.Text(), "movimento 2");
     // Marked for elimination: Del offers to recover it.
     EXPECT_TRUE(f().Del.Enabled);
     EXPECT_EQ(f().Del.Text(), "Rec");
-    // Out of the balances and of .TOT while it sits in the line; the panel isn't redrawn.
-    EXPECT_EQ(Saldi(), (std::vector<double>{0, 100, 100, 100}));
-    EXPECT_EQ(SaldiTot(), Saldi());
-    EXPECT_EQ(app->MDIForm1.Saldi(1).Text(), "60,00");
+    // Out of the balances and of .TOT while it sits in the line: 100 alone.
+    EXPECT_EQ(SaldiTot(), (std::vector<double>{0, 100, 100, 100}));
 
     f().IMPORTO.SetFocus();
     f().IMPORTO.SetText("45,5");
     f().OK.Clicca();
 
-    EXPECT_EQ(Stato.NumMovimenti, 2);
     EXPECT_EQ(LeggiContatore(File(".MOR")), 2);
     auto mov = Leggi(".MOV");
     ASSERT_EQ(mov.size(), 2u);
-    EXPECT_EQ(mov[1].NrOper, 2);
     EXPECT_DOUBLE_EQ(mov[1].IMPORTO, 45.5);
     EXPECT_EQ(mov[1].Annullato, "N");
     // The scratch place past the end took the line and was given up.
     EXPECT_EQ(Stato.Movimenti[3].NrOper, 3);
-    EXPECT_EQ(Saldi(), (std::vector<double>{-45.5, 54.5, 54.5, 54.5}));
-    EXPECT_EQ(SaldiTot(), Saldi());
-    EXPECT_EQ(app->MDIForm1.Saldi(1).Text(), "54,50");
-    EXPECT_EQ(Stato.MovimentoCorrente, 0);
-    EXPECT_FALSE(f().Del.Enabled);
+    // 100 - 45.50, aligned -45.50.
+    EXPECT_EQ(SaldiTot(), (std::vector<double>{-45.5, 54.5, 54.5, 54.5}));
     EXPECT_EQ(f().Del.Text(), "Del");
-    EXPECT_EQ(f().IMPORTO.Text(), "");
-    EXPECT_TRUE(f().DataOper.HaFuoco());
-    const std::string riga = f().ElencoMovim.List(1);
-    EXPECT_EQ(riga.substr(riga.size() - 7), "45,50 *");
     EXPECT_EQ(Numeri(Leggi(".Ord")), (std::vector<int>{1, 2, 0}));
 }
 
@@ -278,32 +213,6 @@ TEST_F(ImmissioneTest, CambioNellaVistaPerValutaRivendicaLOrdinePerOperazione) {
     EXPECT_EQ(riga.substr(riga.size() - 6), "100,00");
     EXPECT_FALSE(f().Command1.Enabled);
     EXPECT_TRUE(f().Command2.Enabled);
-}
-
-TEST_F(ImmissioneTest, PulisciRimetteIlMovimentoComEra) {
-    ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N"),
-                     Mov(2, "02/07/2001", "02/07/2001", 40, "U", "S", "PR", "", "S")});
-    f().S.Show();
-    const auto prima = Saldi();
-
-    Richiama(2);
-    f().IMPORTO.SetFocus();
-    f().IMPORTO.SetText("999");
-    f().pulisci.Clicca();
-
-    EXPECT_EQ(Saldi(), prima);
-    EXPECT_EQ(SaldiTot(), prima);
-    EXPECT_EQ(app->MDIForm1.Saldi(1).Text(), "60,00");
-    EXPECT_EQ(Leggi(".MOV").at(1).IMPORTO, 40);
-    EXPECT_EQ(Stato.MovimentoCorrente, 0);
-    EXPECT_EQ(f().ElencoMovim.ListIndex(), -1);
-    EXPECT_EQ(f().elencoValuta.ListIndex(), -1);
-    EXPECT_FALSE(f().Del.Enabled);
-    EXPECT_EQ(f().Del.Text(), "Del");
-    EXPECT_EQ(f().IMPORTO.Text(), "");
-    EXPECT_TRUE(f().DataOper.HaFuoco());
-    // pulisci shows the count, and DataOper taking the focus the number of the next one.
-    EXPECT_EQ(f().NrOper.Text(), "3");
 }
 
 TEST_F(ImmissioneTest, EscConMovimentoRichiamatoLasciaISaldiSenzaFinoAlRicarico) {
@@ -469,20 +378,3 @@ INSTANTIATE_TEST_SUITE_P(
                   "Form9.DataValuta"}),
     [](const auto& info) { return std::string(info.param.nome); });
 
-TEST_F(ImmissioneTest, CampiPieniAvanzanoEInvioInFondoConferma) {
-    f().S.Show();
-    Riga("01/07/2001", "01/07/2001", "VS", "12");
-    f().NrDoc.SetFocus();
-    f().NrDoc.SetText("");
-    for (char c : std::string("12345678")) f().S.Fuoco()->Digita(c);
-    EXPECT_EQ(f().NrDoc.Text(), "12345678");
-    EXPECT_TRUE(f().DescMovim.HaFuoco());
-    for (char c : std::string(30, 'x')) f().S.Fuoco()->Digita(c);
-    EXPECT_TRUE(f().OK.HaFuoco());
-
-    f().DescMovim.SetFocus();
-    f().DescMovim.SetText("Fine");
-    f().DescMovim.Digita(TastoInvio);
-    EXPECT_EQ(Stato.NumMovimenti, 1);
-    EXPECT_EQ(Leggi(".MOV").at(0).DescMovim.Testo(), Giustifica("Fine", 30));
-}

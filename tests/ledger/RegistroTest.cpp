@@ -1,4 +1,4 @@
-#include "AmbienteRegistro.h"
+#include "tests/Ambiente.h"
 
 #include "ledger/CaricaConto.h"
 #include "ledger/Registro.h"
@@ -14,7 +14,7 @@ struct CasoRiga {
     std::string attesa;
 };
 
-class RigaElencoTest : public AmbienteRegistro, public ::testing::WithParamInterface<CasoRiga> {};
+class RigaElencoTest : public AmbienteConto, public ::testing::WithParamInterface<CasoRiga> {};
 
 TEST_P(RigaElencoTest, ColonneDellaRiga) {
     const CasoRiga& c = GetParam();
@@ -76,7 +76,7 @@ struct CasoSaldi {
     double allineamento, operazione, valuta, ultimaData;
 };
 
-class SaldiTest : public AmbienteRegistro, public ::testing::WithParamInterface<CasoSaldi> {};
+class SaldiTest : public AmbienteConto, public ::testing::WithParamInterface<CasoSaldi> {};
 
 const CasoSaldi casiSaldi[] = {
     {"oggi_entrata_sospesa", Mov(1, "05/07/2001", "05/07/2001", 100, "E", "S"), 0, 100, 100, 100},
@@ -131,7 +131,7 @@ TEST_P(SaldiTest, ApplicaEStorna) {
 INSTANTIATE_TEST_SUITE_P(Registro, SaldiTest, ::testing::ValuesIn(casiSaldi),
                          [](const auto& info) { return std::string(info.param.nome); });
 
-using RegistroTest = AmbienteRegistro;
+using RegistroTest = AmbienteConto;
 
 TEST_F(RegistroTest, TotSbagliatoRiparatoAlCaricamentoConLeSueDate) {
     ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N"),

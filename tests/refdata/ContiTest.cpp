@@ -1,6 +1,6 @@
 // The accounts: Form2's keys, new and change modes, the duplicate numbers and the deletion by
 // prefix; the lists; the opening through Form7 and Form10 and the closing of the account.
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include "refdata/Conti.h"
 #include "store/Testo.h"
@@ -143,24 +143,6 @@ TEST_F(ContiTest, NumeriDoppiConfrontatiSenzaIBlankADestra) {
     EXPECT_EQ(SuDisco(2).CodConto.Testo(), " 12" + Blank(9));
 }
 
-TEST_F(ContiTest, LaModificaRiscriveIlSuoRecord) {
-    Archivio({"12", "34"});
-    ScriviConto("34", "Banca Due", 2500, 2);
-    Clic(Finestra().NuovoConto);
-    Seleziona(F2().ListaConti, "34", true);
-    F2().NomeBanca.SetText("Banca Tre");
-    F2().Cab.SetText("CAB");
-    Clic(F2().AddAnItem);
-    EXPECT_TRUE(Messaggi().empty());
-    RecConto c = SuDisco(2);
-    EXPECT_EQ(c.Numero, 2);
-    EXPECT_EQ(Campi(c), "34||Banca Tre||||||CAB||");
-    EXPECT_DOUBLE_EQ(c.Fido, 2500);
-    EXPECT_EQ(fs::file_size(dati / "Conti.dat"), 2 * 205u);
-    // Every field empties, Cab too.
-    EXPECT_EQ(F2().Cab.Text(), "");
-}
-
 TEST_F(ContiTest, UnContoAppenaAggiuntoSiScegliePureDallaSuaRigaCorta) {
     Archivio({"12"});
     Clic(Finestra().NuovoConto);
@@ -251,27 +233,6 @@ TEST_F(ContiTest, ListeInOrdineDiTestoLaTabellaInOrdineDiFile) {
     for (const std::string& riga : F7().List1.Righe()) numeri.push_back(Trim(riga.substr(0, 12)));
     EXPECT_EQ(numeri, (std::vector<std::string>{"10", "9", "A1", "b2"}));
     EXPECT_EQ(Trim(Stato.Conti[1].CodConto), "b2");
-}
-
-TEST_F(ContiTest, LaChiusuraSvuotaIlPannelloESpegneIComandi) {
-    ScriviConto("12", "Banca Uno", 1000);
-    Clic(Finestra().ApriConto);
-    Seleziona(F7().List1, "12", true);
-    Clic(F10().Saldi);
-    ASSERT_EQ(Stato.ContoAperto, 1);
-    ComandiConto(true);
-
-    MDIForm1& f = Finestra();
-    Clic(f.close);
-    for (Controllo* c : {&f.UltimaData, &f.AssMano, &f.AssFuori, &f.DescConto, &f.Saldi(0),
-                         &f.Saldi(5)})
-        EXPECT_EQ(c->Text(), "") << c->nome;
-    EXPECT_EQ(f.Codice.Text(), dati.string() + "/");
-    ComandiConto(false);
-    EXPECT_EQ(app->Form9.S.Stato(), StatoSchermo::Scaricato);
-    EXPECT_EQ(Stato.ContoAperto, 0);
-    EXPECT_EQ(Stato.IndiceConto, 0);
-    EXPECT_EQ(Trim(Stato.CodContoAperto), "");
 }
 
 TEST_F(ContiTest, LaSchedaSaltataOAbbandonataNonApreIlConto) {

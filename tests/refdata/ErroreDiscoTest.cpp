@@ -1,6 +1,6 @@
 // ErroreDisco's boxes and results, the failure path of the choosers' handlers, real failures of
 // the file system on Form7, and the choosers' walk through volumes and folders.
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include "refdata/Conti.h"
 #include "refdata/ErroreDisco.h"
@@ -10,10 +10,7 @@
 #include <unistd.h>
 
 namespace {
-struct ErroreDiscoTest : ::testing::Test {
-    PortaCheGuarda porta;
-    void SetUp() override { ImpostaPiattaforma(&porta); }
-};
+using ErroreDiscoTest = Ambiente;
 
 TEST_F(ErroreDiscoTest, TestiEPulsantiPerNumero) {
     struct Caso {

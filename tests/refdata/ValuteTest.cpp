@@ -1,6 +1,6 @@
 // The currencies: Form25's fixed records and its lock, the converter, and the division by the
 // rate in use.
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include "refdata/Valute.h"
 #include "store/Formato.h"
@@ -81,23 +81,6 @@ TEST_F(ValuteTest, OgniValutaRestaAlSuoRecordInQualunqueOrdineSiConfermino) {
     }
 }
 
-TEST_F(ValuteTest, OgniPulsanteScriveSoloIlProprioRecordENonIlCambioInUso) {
-    Stato.Cambio = 1;
-    Sblocca();
-    // A rate typed beside another currency and never confirmed is not stored.
-    F25().Box(5).SetText("1,95583");
-    Byte atteso = ContenutoFile(programma / "Valute.DAT");
-    ConfermaSulForm25(F25().SSCommand1, "1.936,27", 6);
-    Byte dopo = ContenutoFile(programma / "Valute.DAT");
-    ASSERT_EQ(dopo.size(), atteso.size());
-    std::copy(dopo.begin() + 6 * 60, dopo.begin() + 7 * 60, atteso.begin() + 6 * 60);
-    EXPECT_EQ(dopo, atteso);
-    EXPECT_EQ(SuDisco(7).Cambio, 1936.27);
-    // The rate reaches the table, not the currency in use until it is chosen.
-    EXPECT_EQ(Stato.Valute[7].Cambio, 1936.27);
-    EXPECT_EQ(Stato.Cambio, 1);
-}
-
 TEST_F(ValuteTest, UnTassoNonNumericoEUnGuastoENonScriveNulla) {
     const Byte prima = ContenutoFile(programma / "Valute.DAT");
     Sblocca();
@@ -111,35 +94,6 @@ TEST_F(ValuteTest, UnTassoNonNumericoEUnGuastoENonScriveNulla) {
 void ScriviValute(ValuteTest& t) {
     for (const Riga25& r : Righe25)
         if (r.record != 12) t.ScriviValuta(r.record, r.nome, r.paese, r.cambio);
-}
-
-TEST_F(ValuteTest, IlConvertitorePassaPerLEuro) {
-    ScriviValute(*this);
-    struct Caso {
-        const char *nome, *importo, *da, *a;
-        const char* euro; // "" when nothing is computed
-        const char* risultato;
-    };
-    // 655.957 / 6.55957 = 100; 100 * 40.3399 = 4033.99 (Belgium's, not the first Franco's).
-    // 1936270 / 1936.27 = 1000.
-    const Caso casi[] = {
-        {"French francs into Belgian ones", "655,957", "Franco - Francia", "Franco - Belgio", "100",
-         "4033,99"},
-        {"into a currency never written", "1.936.270", "Lira - Italia", " - ", "1000", "0"},
-        {"nothing typed", "", "Lira - Italia", "Marco - Germania", "", ""},
-    };
-    Convertore& c = app->Convertore;
-    for (const Caso& caso : casi) {
-        SCOPED_TRACE(caso.nome);
-        c.S.UnloadMe();
-        c.S.Show();
-        c.ImDa.SetText(caso.importo);
-        Seleziona(c.Combo1, caso.da);
-        Seleziona(c.Combo2, caso.a);
-        EXPECT_TRUE(Clic(c.SSCommand1));
-        EXPECT_EQ(c.Euros.Text(), caso.euro);
-        EXPECT_EQ(c.ImA.Text(), caso.risultato);
-    }
 }
 
 TEST_F(ValuteTest, LImportoDigitatoSiMemorizzaInEuroDivisoPerIlCambioInUso) {

@@ -2,6 +2,8 @@
 #include "screen/PiattaformaSenzaSchermo.h"
 #include "shell/MDIForm1.h"
 
+#include "tests/Ambiente.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -9,11 +11,7 @@
 
 namespace {
 
-struct ConPiattaforma : ::testing::Test {
-    PiattaformaSenzaSchermo piattaforma;
-    void SetUp() override { ImpostaPiattaforma(&piattaforma); }
-    void TearDown() override { ImpostaPiattaforma(nullptr); }
-};
+using ConPiattaforma = Ambiente;
 
 TEST(Liste, UnaRigaAggiuntaSpostaLaSceltaSenzaClic) {
     struct Caso {
@@ -158,31 +156,6 @@ TEST_F(Fuoco, UnaPerditaDiFuocoCheLoSpostaVince) {
     m.Lista.SetFocus();
     EXPECT_EQ(m.S.Fuoco(), &m.Casella);
     EXPECT_EQ(eventi, (std::vector<std::string>{"perde Campo", "prende Casella"}));
-}
-
-using MenuPrincipale = ConPiattaforma;
-
-// `movimenti` stands in the submenu Stampe of the menu File.
-TEST_F(MenuPrincipale, UnaVoceDiUnMenuNascostoOSpentaNonSiSceglie) {
-    struct Caso {
-        const char* nome;
-        bool menuVisibile, voceAccesa, scelta;
-    };
-    const Caso casi[] = {
-        {"all on", true, true, true},
-        {"menu hidden", false, true, false},
-        {"entry off", true, false, false},
-    };
-    for (const Caso& caso : casi) {
-        MDIForm1 f;
-        int scelte = 0;
-        f.movimenti.Click = [&scelte] { ++scelte; };
-        f.Stampe.Enabled = true;
-        f.Stampe.Visible = caso.menuVisibile;
-        f.movimenti.Enabled = caso.voceAccesa;
-        f.movimenti.Clicca();
-        EXPECT_EQ(scelte, caso.scelta ? 1 : 0) << caso.nome;
-    }
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // The start of the program: the first start of an installation, the later ones, the data
 // directory and the start account.
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include "shell/PrimoAvvio.h"
 #include "store/Testo.h"
@@ -13,52 +13,6 @@ void Accoda(Byte& b, const std::string& testo, std::size_t larghezza) {
 }
 
 using AvvioTest = Ambiente;
-
-TEST_F(AvvioTest, PrimoAvvioScriveICausaliELEuro) {
-    Avvia();
-    EXPECT_TRUE(Messaggi().empty());
-
-    Byte causali;
-    const char* semi[][2] = {{"AS", "ASSEGNO"}, {"CA", "CARNET"}, {"GC", "GIROCONTO"}};
-    for (unsigned char n = 1; n <= 3; ++n) {
-        causali.insert(causali.end(), {n, 0});
-        Accoda(causali, semi[n - 1][0], 5);
-        Accoda(causali, semi[n - 1][1], 25);
-        Accoda(causali, "SU1", 3);
-    }
-    EXPECT_EQ(ContenutoFile(programma / "Causali.DAT"), causali);
-    EXPECT_EQ(ContenutoFile(programma / "RecCausa.dat"), (Byte{3, 0}));
-
-    // Records 1 to 14 never written: zeros up to record 15, the Euro at a rate of 1.0.
-    Byte valute(14 * 60, 0);
-    valute.insert(valute.end(), {15, 0});
-    Accoda(valute, "Euro", 25);
-    valute.insert(valute.end(), {0, 0, 0, 0, 0, 0, 0xF0, 0x3F});
-    Accoda(valute, "Unione Europea", 25);
-    EXPECT_EQ(ContenutoFile(programma / "Valute.DAT"), valute);
-
-    // What the start only read is left behind empty.
-    for (const fs::path& vuoto : {programma / "colori.col", programma / "Imposta.DAT",
-                                  dati / "RecConti.dat", dati / "Conti.dat"}) {
-        ASSERT_TRUE(fs::exists(vuoto)) << vuoto;
-        EXPECT_EQ(fs::file_size(vuoto), 0u) << vuoto;
-    }
-}
-
-TEST_F(AvvioTest, PrimoAvvioMostraIlBenvenutoEIComandiDelContoSpenti) {
-    Avvia();
-    EXPECT_EQ(app->Form1.S.Stato(), StatoSchermo::Visibile);
-    const std::string& resto = app->Form1.Text2.Text();
-    EXPECT_EQ(resto.rfind("Per poter utilizzare correttamente il programma", 0), 0u);
-    EXPECT_NE(resto.find("secondo leproprie esigenze"), std::string::npos);
-    EXPECT_NE(resto.find("rapportate con L'Euro.\nSe i valori"), std::string::npos);
-    EXPECT_TRUE(resto.ends_with("per la gestione dei Vs. conti bancari."));
-
-    MDIForm1& f = Finestra();
-    ComandiConto(false);
-    for (Controllo* c : {&f.File, &f.NuovoConto, &f.ApriConto, &f.Command3D2})
-        EXPECT_TRUE(c->Enabled) << c->nome;
-}
 
 TEST_F(AvvioTest, PrimoAvvioInstallaIFileFornitiSenzaToccareQuelliPresenti) {
     fs::create_directories(programma);

@@ -1,5 +1,5 @@
 // The way out of the program: a question, and the end only on OK.
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 namespace {
 using UscitaTest = Ambiente;

@@ -1,6 +1,6 @@
 // The currency in use: the lines of the combo, the choice at the start by name, a choice by the
 // user with its flag, its rate and the redraw of an open account.
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include "store/RecordRegistro.h"
 

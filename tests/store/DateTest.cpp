@@ -2,8 +2,7 @@
 #include "store/Guasto.h"
 #include "store/Piattaforma.h"
 
-#include "tests/NumeroGuasto.h"
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include <gtest/gtest.h>
 
@@ -11,15 +10,12 @@
 #include <vector>
 
 namespace {
-// The boxes shown, and a fixed today.
-class DateConPiattaforma : public ::testing::Test {
-protected:
+// A fixed today.
+struct DateConPiattaforma : Ambiente {
     void SetUp() override {
+        Ambiente::SetUp();
         porta.oggi = DataCivile{7, 3, 2024};
-        ImpostaPiattaforma(&porta);
     }
-    void TearDown() override { ImpostaPiattaforma(nullptr); }
-    PortaCheGuarda porta;
 };
 
 TEST(NumeroData, ScalaConLoSfasamentoDiGiugno) {
@@ -29,6 +25,7 @@ TEST(NumeroData, ScalaConLoSfasamentoDiGiugno) {
         float atteso;
     } casi[] = {
         {"29 febbraio bisestile", "29/02/2000", 732060},    // 732000 + 31 + 29
+        {"primo marzo bisestile", "01/03/2000", 732061},    // 732000 + 59 + 1 + 1
         {"primo gennaio", "01/01/2001", 732367},            // 732366 + 1
         {"30 giugno", "30/06/2001", 732555},                // 732366 + 159 + 30
         {"10 luglio", "10/07/2001", 732557},                // 732366 + 181 + 10

@@ -3,8 +3,7 @@
 #include "store/Stato.h"
 #include "store/Testo.h"
 
-#include "tests/NumeroGuasto.h"
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include <gtest/gtest.h>
 
@@ -99,6 +98,7 @@ TEST_F(FileRecordTest, Guasti) {
     std::string rip = dir + "AB12.RIP";
     RecRiporto r;
     RecTotali t;
+    RecIntero intero;
     struct Riga {
         const char* nome;
         int lunghezza; // of the records of channel 1, opened first; 0: nothing open
@@ -113,9 +113,9 @@ TEST_F(FileRecordTest, Guasti) {
         {"write on a closed channel", 0, [&] { ScriviRecord(r, 1, 3); }, 52},
         {"record 0", 18, [&] { LeggiRecord(r, 0, 1); }, 63},
         {"record -1 written", 18, [&] { ScriviRecord(r, -1, 1); }, 63},
-        {"integer at record 0", 2, [&] { LeggiIntero(0, 1); }, 63},
+        {"integer at record 0", 2, [&] { LeggiRecord(intero, 0, 1); }, 63},
         {"record of another length", 18, [&] { LeggiRecord(t, 1, 1); }, 59},
-        {"integer on a record channel", 18, [&] { ScriviIntero(1, 1, 1); }, 59},
+        {"integer on a record channel", 18, [&] { ScriviRecord(intero, 1, 1); }, 59},
         {"missing directory", 0, [&] { ApriRecord(dir + "manca/AB12.RIP", 18, 1); }, 76},
         {"missing directory for a counter", 0, [&] { LeggiContatore(dir + "manca/x.MOR"); }, 76},
     };
@@ -140,11 +140,16 @@ TEST_F(FileRecordTest, PermessoNegato) {
 
 TEST_F(FileRecordTest, InteriEContatori) {
     ApriRecord(NomeFileConto(".NRF"), 2, 3);
-    ScriviIntero(-2, 1, 3);
-    ScriviIntero(300, 3, 3);
-    EXPECT_EQ(LeggiIntero(2, 3), 0);
-    EXPECT_EQ(LeggiIntero(3, 3), 300);
-    EXPECT_EQ(LeggiIntero(4, 3), 0);
+    ScriviRecord(RecIntero{-2}, 1, 3);
+    ScriviRecord(RecIntero{300}, 3, 3);
+    auto intero = [](long numero) {
+        RecIntero r;
+        LeggiRecord(r, numero, 3);
+        return r.Valore;
+    };
+    EXPECT_EQ(intero(2), 0);
+    EXPECT_EQ(intero(3), 300);
+    EXPECT_EQ(intero(4), 0);
     ChiudiRecord(3);
     EXPECT_EQ(Contenuto("AB12.NRF"), (Byte{0xFE, 0xFF, 0x00, 0x00, 0x2C, 0x01}));
     EXPECT_EQ(LeggiContatore(NomeFileConto(".NRF")), -2);

@@ -1,7 +1,8 @@
 #include "store/Formato.h"
 #include "store/Guasto.h"
 
-#include "tests/NumeroGuasto.h"
+
+#include "tests/Ambiente.h"
 
 #include <gtest/gtest.h>
 

@@ -8,7 +8,8 @@
 #include "store/Tabella.h"
 #include "store/Testo.h"
 
-#include "tests/NumeroGuasto.h"
+
+#include "tests/Ambiente.h"
 
 #include <gtest/gtest.h>
 
@@ -238,3 +239,19 @@ TEST(Fisso, TabellaDiMovimentiConTestiOltreLaStanza) {
     EXPECT_EQ(movimenti[1].DescMovim.Testo(), std::string(30, ' '));
 }
 } // namespace
+
+TEST(Intero16, UnMezzoVaAlPariFuoriScalaEUnGuasto) {
+    const struct {
+        double valore;
+        int atteso; // -1: failure 6
+    } casi[] = {
+        {0.5, 0},          {1.5, 2},          {2.5, 2},         {-2.5, -2},
+        {-3.5, -4},        {2.4999, 2},       {2.5001, 3},      {32767.4, 32767},
+        {-32768.5, -32768}, {32767.5, -1},    {-32768.6, -1},
+    };
+    for (const auto& c : casi) {
+        short valore = 0;
+        int guasto = NumeroGuasto([&] { valore = Intero16(c.valore); });
+        EXPECT_EQ(c.atteso == -1 ? guasto : valore, c.atteso == -1 ? 6 : c.atteso) << c.valore;
+    }
+}

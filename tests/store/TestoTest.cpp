@@ -1,7 +1,8 @@
 #include "store/Guasto.h"
 #include "store/Testo.h"
 
-#include "tests/NumeroGuasto.h"
+
+#include "tests/Ambiente.h"
 
 #include <gtest/gtest.h>
 

@@ -115,7 +115,8 @@ TEST_F(Legatore, LeScrittureDelLegatoreNonTornanoComeEventi) {
         eventi.push_back("OK.Click");
         p.Nome.SetText("scritto dal programma");
         p.Valuta.AddItem("Euro - Unione Europea");
-        p.Valuta.SetListIndex(0);
+        p.Valuta.AddItem("Lira - Italia");
+        p.Valuta.SetListIndex(1);
         p.Elenco.AddItem("riga");
         p.Elenco.SetListIndex(0);
         p.Due.SetValue(true);
@@ -125,7 +126,8 @@ TEST_F(Legatore, LeScrittureDelLegatoreNonTornanoComeEventi) {
     EXPECT_EQ(eventi, (std::vector<std::string>{"OK.Click", "Nome.Change", "Valuta.Click",
                                                 "Elenco.Click"}));
     EXPECT_EQ(Widget<QLineEdit>("Nome")->text(), "scritto dal programma");
-    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentText(), "Euro - Unione Europea");
+    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentIndex(), 1);
+    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentText(), "Lira - Italia");
     EXPECT_TRUE(Widget<QRadioButton>("Due")->isChecked());
 }
 
@@ -218,6 +220,8 @@ TEST_F(Legatore, VisibileSuggerimentoEMenuCheSiApre) {
     EXPECT_FALSE(saldo->isVisible());
     EXPECT_EQ(saldo->toolTip(), "Saldo per data valuta");
 
+    // A menu pops up only when the user opens it: its visibility is that of its entry.
+    EXPECT_FALSE(Widget<QMenu>("Menu")->isVisible());
     // The menu's handler runs as it opens and may change its entries before they show.
     p.Menu.Click = [&] { p.Voce.Enabled = false; };
     emit Widget<QMenu>("Menu")->aboutToShow();

@@ -1,7 +1,8 @@
 #pragma once
-// A program directory of its own for each test, under a fresh temporary folder that is also the
-// current directory, with the headless port and a new application for every start; and the
-// user's actions on the screens, as the script driver does them.
+// The one fixture of the unit tests. A program directory of its own for each test, under a fresh
+// temporary folder that is also the current directory, with the headless port and a new
+// application for every start; the user's actions on the screens, as the script driver does
+// them; and, for the register, an account "123" open in the folder without a start.
 #include "screen/PiattaformaSenzaSchermo.h"
 #include "shell/Applicazione.h"
 #include "shell/Avvio.h"
@@ -12,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -23,6 +25,16 @@
 namespace fs = std::filesystem;
 
 using Byte = std::vector<unsigned char>;
+
+// The number of the failure an action raises, 0 when it raises none.
+inline int NumeroGuasto(const std::function<void()>& azione) {
+    try {
+        azione();
+    } catch (const ErroreEsecuzione& e) {
+        return e.numero;
+    }
+    return 0;
+}
 
 inline Byte ContenutoFile(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
@@ -91,7 +103,7 @@ inline void Seleziona(Controllo& lista, const std::string& inizio, bool doppio =
 }
 
 struct Ambiente : ::testing::Test {
-    PiattaformaSenzaSchermo porta;
+    PortaCheGuarda porta;
     fs::path radice, programma, dati;
     fs::path cartellaPrima;
     std::unique_ptr<Applicazione> app;
@@ -111,6 +123,7 @@ struct Ambiente : ::testing::Test {
     void TearDown() override {
         app.reset();
         ChiudiTutti();
+        ImpostaPiattaforma(nullptr);
         fs::current_path(cartellaPrima);
         fs::remove_all(radice);
     }
@@ -173,5 +186,110 @@ struct AmbienteAvviato : Ambiente {
         Ambiente::SetUp();
         Avvia();
         Messaggi();
+    }
+};
+
+inline RecMovimento Mov(int nr, const std::string& dataOper, const std::string& dataValuta,
+                        double importo, const std::string& dA, const std::string& sospeso,
+                        const std::string& causale = "VS", const std::string& nrDoc = "",
+                        const std::string& annullato = "N") {
+    RecMovimento m;
+    m.NrOper = static_cast<std::int16_t>(nr);
+    m.DataOper = dataOper;
+    m.DataValuta = dataValuta;
+    m.Causale = causale;
+    m.IMPORTO = importo;
+    m.NrDoc = nrDoc;
+    m.DescMovim = "movimento " + std::to_string(nr);
+    m.Sospeso = sospeso;
+    m.D_A = dA;
+    m.Annullato = annullato;
+    return m;
+}
+
+// The open account "123" in the test's folder, which is both the data and the program directory,
+// with two causali and today 05/07/2001; every screen made, none loaded.
+struct AmbienteConto : Ambiente {
+    void SetUp() override {
+        Ambiente::SetUp();
+        porta.oggi = DataCivile{5, 7, 2001};
+        Stato = StatoApplicazione{};
+        Stato.PercorsoDati = radice.string() + "/";
+        Stato.PercorsoProgramma = radice.string() + "/";
+        Stato.CodContoAperto = "123";
+        Stato.FormatoImporti = "#,###,###,##0.00";
+        Stato.NumCausali = 2;
+        Causale(1, "VS", "Versamento contanti in banca");
+        Causale(2, "PR", "Prelievo");
+        Stato.NumConti = 1;
+        Stato.Conti[1].CodConto = "123";
+        Stato.IndiceConto = 1;
+        app = std::make_unique<Applicazione>();
+    }
+
+    // Causale n of the table in memory.
+    static void Causale(long n, const std::string& codice, const std::string& descrizione,
+                        const std::string& sospeso = "", const std::string& dA = "") {
+        RecCausale& c = Stato.Causali[n];
+        c.CodCausale = codice;
+        c.DescCausale = descrizione;
+        c.Sospeso = sospeso;
+        c.DareAvere = dA;
+    }
+
+    std::string File(const std::string& estensione) const {
+        return radice.string() + "/123" + estensione;
+    }
+
+    // The movements as records 1 onwards of .MOV, and their count in .MOR.
+    void ScriviMovimenti(const std::vector<RecMovimento>& movimenti, short contatore = -1) {
+        ApriRecord(File(".MOV"), RecMovimento::Lunghezza, 1);
+        for (std::size_t i = 0; i < movimenti.size(); ++i)
+            ScriviRecord(movimenti[i], static_cast<long>(i + 1), 1);
+        ChiudiRecord(1);
+        ScriviContatore(File(".MOR"),
+                        contatore < 0 ? static_cast<short>(movimenti.size()) : contatore);
+    }
+
+    void ScriviRiporto(double importo) {
+        RecRiporto r;
+        r.DataRiporto = "31/12/2000";
+        r.ImportoRiporto = importo;
+        ApriRecord(File(".RIP"), RecRiporto::Lunghezza, 1);
+        ScriviRecord(r, 1, 1);
+        ChiudiRecord(1);
+    }
+
+    // Every record of a file of movements (.MOV or .Ord), to its end.
+    std::vector<RecMovimento> Leggi(const std::string& estensione) const {
+        auto quanti = fs::file_size(File(estensione)) / RecMovimento::Lunghezza;
+        std::vector<RecMovimento> letti(quanti + 1);
+        ApriRecord(File(estensione), RecMovimento::Lunghezza, 1);
+        LeggiRecords(letti, 1, static_cast<long>(quanti), 1);
+        ChiudiRecord(1);
+        letti.erase(letti.begin());
+        return letti;
+    }
+
+    RecTotali LeggiTotali() const {
+        RecTotali t;
+        ApriRecord(File(".TOT"), RecTotali::Lunghezza, 1);
+        LeggiRecord(t, 1, 1);
+        ChiudiRecord(1);
+        return t;
+    }
+
+    static std::vector<int> Numeri(const std::vector<RecMovimento>& movimenti) {
+        std::vector<int> numeri;
+        for (const RecMovimento& m : movimenti) numeri.push_back(m.NrOper);
+        return numeri;
+    }
+
+    // The numbers of the movements in a list, read back from columns 32 to 35.
+    static std::vector<int> NumeriInLista(const Controllo& lista) {
+        std::vector<int> numeri;
+        for (const std::string& riga : lista.Righe())
+            numeri.push_back(std::stoi(riga.substr(31, 4)));
+        return numeri;
     }
 };
