@@ -16,6 +16,7 @@ Applicazione::Applicazione() {
     CollegaMenuAnagrafe(MDIForm1);
     CollegaMenuConti(MDIForm1);
     CollegaMenuMovimenti(MDIForm1);
+    CollegaMenuStampe(MDIForm1);
     CollegaFinestraPrincipale(MDIForm1);
 }
 

@@ -13,6 +13,7 @@
 #include "refdata/Form6.h"
 #include "refdata/Form7.h"
 #include "refdata/ManutCaus.h"
+#include "reports/Form21.h"
 #include "shell/Form1.h"
 #include "shell/MDIForm1.h"
 
@@ -31,6 +32,7 @@ struct Applicazione {
     ::Form11 Form11;
     ::Form20 Form20;
     ::Form22 Form22;
+    ::Form21 Form21;
 
     Applicazione();
     ~Applicazione();
