@@ -9,8 +9,8 @@
 
 namespace {
 void TutteLeDate(Form21& f) {
-    f.dal.SetText(Stato.Totali.PrimaDataOperazione);
-    f.al.SetText(Stato.Totali.UltimaDataOperazione);
+    f.dal.SetText(Stato.PrimaDataOperazione);
+    f.al.SetText(Stato.UltimaDataOperazione);
 }
 } // namespace
 
