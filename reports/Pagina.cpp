@@ -89,8 +89,12 @@ void FineStampa(Stampa& s) {
     for (int i = 1; i <= s.modello.riempimento - s.righe; ++i) p.StampaRiga("");
     p.StampaRiga("");
     for (const std::string& riga : s.modello.chiusura) p.StampaRiga(riga);
-    p.StampaRiga(PaginaFine + std::to_string(s.pagina) + Space(17) + ".....fine stampa");
+    p.StampaRiga(RigaFineStampa(s.pagina));
     p.StampanteFine();
+}
+
+std::string RigaFineStampa(short pagina) {
+    return PaginaFine + std::to_string(pagina) + Space(17) + ".....fine stampa";
 }
 
 void ConClessidra(const std::function<void()>& stampa) {

@@ -11,6 +11,11 @@
 //     FineStampa(s);                      // fill, end mark, end of the document
 // The whole run goes inside ConClessidra, which shows the wait pointer and, when a failure
 // breaks the run, throws the half-printed document away before the failure goes on.
+// Other heads are other values of the same records: the ladder's statement has title size 18,
+// the currency on the account line, a rule of 80 and its column heading under the selection, a
+// page thrown at a count of exactly 55 that starts at 1, a fill to 47 and its own rule before
+// the end mark; the statement of competences prints one head (StampaTestata) and free lines.
+// The first line of text of a document names it where it becomes a file: the title.
 #include <functional>
 #include <string>
 #include <vector>
@@ -62,6 +67,8 @@ void IniziaStampa(Stampa& s);
 void RigaCorpo(Stampa& s, const std::string& riga);
 // A line that counts for nothing and never breaks the page.
 void RigaLibera(const std::string& riga);
+// "Pagina N" with the end mark, as the last line of a document has it.
+std::string RigaFineStampa(short pagina);
 // The end fill, the closing lines, "Pagina" with the end mark, the end of the document.
 void FineStampa(Stampa& s);
 
