@@ -4,6 +4,7 @@
 
 #include "refdata/Causali.h"
 #include "reports/Stampe.h"
+#include "store/Guasto.h"
 #include "store/Testo.h"
 
 #include <algorithm>
@@ -173,4 +174,24 @@ TEST_F(StampeTest, DaForm11LaSelezioneDellElenco) {
     EXPECT_EQ(Righe()[5], "    dal 02/01/2001 al 03/01/2001  Causali selezionate: Prelievo  "
                           "* movimenti non sospesi");
     EXPECT_EQ(Stato.FlagOperazione, 0);
+}
+
+// No book in the dates: one page, its head, the fill from a count of 0 (52 and one more line,
+// beneath the head's own empty line) and the end mark.
+TEST_F(StampeTest, UnaSelezioneVuotaEUnaPaginaSola) {
+    StampaCarnet();
+    EXPECT_EQ(Pagine(), 1);
+    EXPECT_EQ(Riempimento(), 1 + 52 + 1);
+    EXPECT_EQ(Righe().size(), 10u + 53 + 3);
+    EXPECT_EQ(porta.carta.back(), "{end}");
+}
+
+// A date that can't be read fails the run: the pointer comes back and the sheet is thrown away.
+TEST_F(StampeTest, UnaDataIllegibileButtaViaLaStampa) {
+    Ord({Mov(1, "10/01/2001", "10/01/2001", 5, "E", "S")});
+    app->Form21.al.SetText("31/02/2001");
+    EXPECT_FALSE(EseguiEvento(StampaMovimenti));
+    EXPECT_EQ(porta.messaggi.back(), "FAILURE 13 Tipo non corrispondente");
+    EXPECT_EQ(porta.carta.back(), "{abandoned}");
+    EXPECT_FALSE(porta.clessidra);
 }
