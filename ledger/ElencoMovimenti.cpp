@@ -138,8 +138,8 @@ void CostruisciElenco() {
     righe.push_back(riga);
     // The carried line and the three lines above are no movements.
     const int movimenti = static_cast<int>(righe.size()) - 4;
-    righe.push_back("Saldo Contabile         " + Space(27) + ImportoColonna(totale, 13) + "  = Euro " +
-                    Format(totale, FormatoEuroTotale));
+    righe.push_back("Saldo Contabile         " + Space(27) + ImportoColonna(totale, 13) +
+                    "  = Euro " + Format(totale, FormatoEuroTotale));
     righe.push_back(Space(68) + "nr. movimenti: " + std::to_string(movimenti));
     righe.push_back("  ");
     consegna();

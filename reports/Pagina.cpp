@@ -12,7 +12,9 @@ const std::string PaginaPiede = Space(42) + "Pagina ";
 const std::string PaginaFine = Space(43) + "Pagina ";
 } // namespace
 
-std::string Riga94() { return " " + std::string(94, '-'); }
+std::string Riga94() {
+    return " " + std::string(94, '-');
+}
 
 Testata TestataElenco(const std::string& titolo, const std::string& selezione,
                       const std::string& colonne) {
@@ -61,10 +63,13 @@ void StampaTestata(const Testata& t) {
     if (t.selezioneGrassetto) p.StampanteGrassetto(true);
     p.StampaRiga(t.selezione);
     if (t.selezioneGrassetto) p.StampanteGrassetto(false);
-    for (const std::string& riga : t.sotto) p.StampaRiga(riga);
+    for (const std::string& riga : t.sotto)
+        p.StampaRiga(riga);
 }
 
-void IniziaStampa(Stampa& s) { StampaTestata(s.testata); }
+void IniziaStampa(Stampa& s) {
+    StampaTestata(s.testata);
+}
 
 void RigaCorpo(Stampa& s, const std::string& riga) {
     PortaPiattaforma& p = Piattaforma();
@@ -82,13 +87,17 @@ void RigaCorpo(Stampa& s, const std::string& riga) {
     p.StampaRiga(s.modello.bianco ? " " + riga : riga);
 }
 
-void RigaLibera(const std::string& riga) { Piattaforma().StampaRiga(riga); }
+void RigaLibera(const std::string& riga) {
+    Piattaforma().StampaRiga(riga);
+}
 
 void FineStampa(Stampa& s) {
     PortaPiattaforma& p = Piattaforma();
-    for (int i = 1; i <= s.modello.riempimento - s.righe; ++i) p.StampaRiga("");
+    for (int i = 1; i <= s.modello.riempimento - s.righe; ++i)
+        p.StampaRiga("");
     p.StampaRiga("");
-    for (const std::string& riga : s.modello.chiusura) p.StampaRiga(riga);
+    for (const std::string& riga : s.modello.chiusura)
+        p.StampaRiga(riga);
     p.StampaRiga(RigaFineStampa(s.pagina));
     p.StampanteFine();
 }

@@ -23,30 +23,30 @@
 // What the head of a page prints, in order: the title block, the line of the account and the
 // print date, the selection in the list font, and the lines beneath it (rules, column heading).
 struct Testata {
-    std::string corpoTitolo = "18";     // sizes as the user's locale writes them: "9,75"
+    std::string corpoTitolo = "18"; // sizes as the user's locale writes them: "9,75"
     std::string titolo;
-    bool conConto = true;               // false: empty lines where the account would stand
-    bool conValuta = false;             // "         Valuta: " and the currency after the date
+    bool conConto = true;   // false: empty lines where the account would stand
+    bool conValuta = false; // "         Valuta: " and the currency after the date
     std::string corpoElenco = "9,75";
     std::string selezione;
     bool selezioneGrassetto = true;
-    std::vector<std::string> sotto;     // printed after the selection line
+    std::vector<std::string> sotto; // printed after the selection line
 };
 
 // How the body fills a page and how the run ends.
 struct ModelloPagina {
-    short limite = 57;      // the line counter at which the page is thrown
-    bool oltre = false;     // true: at the limit or past it (a line may count twice)
-    short riempimento = 52; // the end fill reaches this line count
-    bool bianco = true;     // a body line is printed behind one blank
-    std::vector<std::string> chiusura;  // after the fill, before "Pagina ... fine stampa"
+    short limite = 57;                 // the line counter at which the page is thrown
+    bool oltre = false;                // true: at the limit or past it (a line may count twice)
+    short riempimento = 52;            // the end fill reaches this line count
+    bool bianco = true;                // a body line is printed behind one blank
+    std::vector<std::string> chiusura; // after the fill, before "Pagina ... fine stampa"
 };
 
 // One print run: its head, its page model and its two counters.
 struct Stampa {
     Testata testata;
     ModelloPagina modello;
-    short righe = 0;    // the line counter; the head's lines don't count
+    short righe = 0; // the line counter; the head's lines don't count
     short pagina = 1;
 };
 

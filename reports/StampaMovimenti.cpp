@@ -26,8 +26,8 @@ Selezione SelezioneCorrente() {
 
 std::string RigaMovimento(const RecMovimento& m, double saldo) {
     return m.DataOper.Testo() + " " + m.DataValuta.Testo() + (m.Sospeso == "N" ? "*" : " ") +
-           ColonneImporto(m) + ImportoColonna(saldo, 15) + " " +
-           DescrizioneCausale(m.Causale) + " " + Trim(m.NrDoc) + " " + Left(m.DescMovim, 20);
+           ColonneImporto(m) + ImportoColonna(saldo, 15) + " " + DescrizioneCausale(m.Causale) +
+           " " + Trim(m.NrDoc) + " " + Left(m.DescMovim, 20);
 }
 } // namespace
 

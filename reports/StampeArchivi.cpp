@@ -52,8 +52,8 @@ void StampaConti() {
         for (long j = 1; j <= Stato.NumConti; ++j) {
             const RecConto& c = Stato.Conti[j];
             RigaCorpo(s, c.CodConto.Testo() + " " + Left(c.TipoConto, 15) + " " +
-                             Left(c.NomeBanca, 25) + " " + " " + ImportoColonna(c.Fido, 13) +
-                             " " + Trim(c.abi) + "-" + Trim(c.Cab) + "-" + Trim(c.id));
+                             Left(c.NomeBanca, 25) + " " + " " + ImportoColonna(c.Fido, 13) + " " +
+                             Trim(c.abi) + "-" + Trim(c.Cab) + "-" + Trim(c.id));
         }
         FineStampa(s);
     });
@@ -64,17 +64,17 @@ void StampaRiepilogo() {
         Form22& f = App().Form22;
         ModelloPagina pagina = PaginaElenco(57, false, 54);
         pagina.bianco = false;
-        Stampa s{SenzaConto(TestataElenco(Space(42) + "Riepilogo Conti ",
-                                          "    al " + f.DataVis.Text(),
-                                          " Conto   Descrizione                           Saldo"
-                                          "         Fido       Disponibilità")),
-                 pagina};
+        Stampa s{
+            SenzaConto(TestataElenco(Space(42) + "Riepilogo Conti ", "    al " + f.DataVis.Text(),
+                                     " Conto   Descrizione                           Saldo"
+                                     "         Fido       Disponibilità")),
+            pagina};
         IniziaStampa(s);
         double saldo = 0, fido = 0, disponibile = 0;
         for (const VoceRiepilogo& v : LeggiRiepilogo(f.Dataop(1).Value())) {
             RigaCorpo(s, AllineaDestra(v.codice, 8) + " " + Left(v.banca, 32) + " " +
-                             ImportoColonna(v.saldo, 13) + " " + ImportoColonna(v.fido, 13) +
-                             " " + ImportoColonna(v.disponibile, 13));
+                             ImportoColonna(v.saldo, 13) + " " + ImportoColonna(v.fido, 13) + " " +
+                             ImportoColonna(v.disponibile, 13));
             saldo += v.saldo;
             fido += v.fido;
             disponibile += v.disponibile;

@@ -20,7 +20,8 @@ constexpr int ErroreStampante = 482;
 // A name that the file systems of a desktop all accept.
 QString NomeFile(const std::string& nome) {
     QString pulito = QString::fromStdString(nome).simplified();
-    for (QChar c : {'/', '\\', ':', '*', '?', '"', '<', '>', '|'}) pulito.replace(c, '_');
+    for (QChar c : {'/', '\\', ':', '*', '?', '"', '<', '>', '|'})
+        pulito.replace(c, '_');
     return pulito.isEmpty() ? QStringLiteral("Stampa") : pulito;
 }
 
@@ -32,9 +33,13 @@ StampanteQt::StampanteQt() : stampante_(std::make_unique<QPrinter>(QPrinter::Hig
         stampante_->setOutputFormat(QPrinter::PdfFormat);
 }
 
-StampanteQt::~StampanteQt() { Annulla(); }
+StampanteQt::~StampanteQt() {
+    Annulla();
+}
 
-bool StampanteQt::SuFile() const { return stampante_->outputFormat() == QPrinter::PdfFormat; }
+bool StampanteQt::SuFile() const {
+    return stampante_->outputFormat() == QPrinter::PdfFormat;
+}
 
 QFont StampanteQt::Carattere() const {
     QFont f(QString::fromStdString(famiglia_));
@@ -44,10 +49,18 @@ QFont StampanteQt::Carattere() const {
     return f;
 }
 
-void StampanteQt::Font(const std::string& nome) { famiglia_ = nome; }
-void StampanteQt::Corpo(double punti) { punti_ = punti; }
-void StampanteQt::Grassetto(bool acceso) { grassetto_ = acceso; }
-void StampanteQt::Tab(int colonna) { colonna_ = colonna; }
+void StampanteQt::Font(const std::string& nome) {
+    famiglia_ = nome;
+}
+void StampanteQt::Corpo(double punti) {
+    punti_ = punti;
+}
+void StampanteQt::Grassetto(bool acceso) {
+    grassetto_ = acceso;
+}
+void StampanteQt::Tab(int colonna) {
+    colonna_ = colonna;
+}
 
 // A run's PDF is written under a provisional name and takes the report's name at the end, when
 // its first line of text is known.
@@ -61,9 +74,8 @@ void StampanteQt::Inizia() {
             if (!QDir().mkpath(cartella)) Errore(ErroreStampante);
             QFile::setPermissions(cartella, SoloUtente | QFile::ExeOwner);
         }
-        const QString provvisorio =
-            cartella + "/.marendola-" + QString::number(QDateTime::currentMSecsSinceEpoch()) +
-            ".pdf";
+        const QString provvisorio = cartella + "/.marendola-" +
+                                    QString::number(QDateTime::currentMSecsSinceEpoch()) + ".pdf";
         stampante_->setOutputFileName(provvisorio);
         file_ = provvisorio.toStdString();
     }

@@ -41,12 +41,12 @@ struct StampanteQt {
 
     std::unique_ptr<QPrinter> stampante_;
     std::unique_ptr<QPainter> pittore_;
-    std::string nome_;      // the report's name: its first line of text
-    std::string file_;      // the PDF of the run under way, under a provisional name
+    std::string nome_; // the report's name: its first line of text
+    std::string file_; // the PDF of the run under way, under a provisional name
     std::string famiglia_ = "Courier New";
     double punti_ = 10;
     bool grassetto_ = false;
     int colonna_ = 1;
-    double y_ = 0;          // top of the next line on the page, in device units
-    bool riga_ = false;     // the page has a line on it
+    double y_ = 0;      // top of the next line on the page, in device units
+    bool riga_ = false; // the page has a line on it
 };

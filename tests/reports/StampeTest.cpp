@@ -10,7 +10,9 @@
 #include <algorithm>
 
 namespace {
-std::string Sp(int n) { return std::string(static_cast<std::size_t>(n), ' '); }
+std::string Sp(int n) {
+    return std::string(static_cast<std::size_t>(n), ' ');
+}
 
 RecAssegno Foglio(int numero, const std::string& data, double importo, const std::string& traente,
                   const std::string& note, const std::string& allineato,
@@ -29,7 +31,7 @@ RecAssegno Foglio(int numero, const std::string& data, double importo, const std
 } // namespace
 
 class StampeTest : public AmbienteRegistro {
-protected:
+  protected:
     void SetUp() override {
         AmbienteRegistro::SetUp();
         app->Form21.dal.SetText("01/01/2001");
@@ -57,7 +59,8 @@ protected:
     int Riempimento() const {
         const std::vector<std::string> r = Righe();
         int n = 0;
-        for (auto i = r.size() - 4; r[i].empty(); --i) ++n;
+        for (auto i = r.size() - 4; r[i].empty(); --i)
+            ++n;
         return n;
     }
 };
@@ -75,11 +78,13 @@ TEST_F(StampeTest, LaPaginaSiVoltaAlLimiteENonPrima) {
                           Caso{false, 57, 2, 52}}) {
         porta.carta.clear();
         if (c.movimenti) {
-            Ord(std::vector<RecMovimento>(c.righe, Mov(1, "10/01/2001", "10/01/2001", 5, "E", "S")));
+            Ord(std::vector<RecMovimento>(c.righe,
+                                          Mov(1, "10/01/2001", "10/01/2001", 5, "E", "S")));
             StampaMovimenti();
         } else {
             Stato.NumCausali = static_cast<short>(c.righe);
-            for (int j = 1; j <= c.righe; ++j) ScriviCausale(1, j);
+            for (int j = 1; j <= c.righe; ++j)
+                ScriviCausale(1, j);
             ScriviContatore(dir.string() + "/RecCausa.dat", Stato.NumCausali);
             StampaCausali();
         }
@@ -90,8 +95,8 @@ TEST_F(StampeTest, LaPaginaSiVoltaAlLimiteENonPrima) {
             auto piede = std::find(porta.carta.begin(), porta.carta.end(), "{page}");
             EXPECT_EQ(*(piede - 1), "|" + Sp(42) + "Pagina 1|");
         }
-        EXPECT_EQ(Righe().back(), Sp(43) + "Pagina " + std::to_string(c.pagine) + Sp(17) +
-                                      ".....fine stampa");
+        EXPECT_EQ(Righe().back(),
+                  Sp(43) + "Pagina " + std::to_string(c.pagine) + Sp(17) + ".....fine stampa");
     }
 }
 
@@ -116,7 +121,8 @@ TEST_F(StampeTest, LeRigheDegliElenchiDegliAssegni) {
     Stato.Assegni[2] = Foglio(102, "20/02/2001", 0, "", "Errato", "S", "S");
     Stato.Assegni[3] = Foglio(103, "01/03/2001", 0, "", "", "N", "N");
     ApriRecord(File(".FOG"), RecAssegno::Lunghezza, 1);
-    for (long j = 1; j <= 3; ++j) ScriviRecord(Stato.Assegni[j], j, 1);
+    for (long j = 1; j <= 3; ++j)
+        ScriviRecord(Stato.Assegni[j], j, 1);
     ChiudiRecord(1);
     Stato.NumCarnet = 1;
     RecCarnet c;
@@ -138,8 +144,8 @@ TEST_F(StampeTest, LeRigheDegliElenchiDegliAssegni) {
     };
     const std::vector<Caso> casi = {
         {StampaAssegni,
-         {" 15/02/2001 16/02/2001         200,00          101  movimento 1" + Sp(11) + " " +
-          Sp(7) + "3" + Sp(8) + "N"}},
+         {" 15/02/2001 16/02/2001         200,00          101  movimento 1" + Sp(11) + " " + Sp(7) +
+          "3" + Sp(8) + "N"}},
         {StampaAnnullati,
          {" 20/02/2001" + Sp(9) + Sp(12) + "0" + Sp(10) + "102  Errato" + Sp(16) + " " + Sp(7) +
           "3" + Sp(11) + "S"}},
