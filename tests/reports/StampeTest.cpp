@@ -170,18 +170,6 @@ TEST_F(StampeTest, LeRigheDegliElenchiDegliAssegni) {
     }
 }
 
-// From Form11 the report takes the list's own selection, and leaves the flag down after.
-TEST_F(StampeTest, DaForm11LaSelezioneDellElenco) {
-    Ord({Mov(1, "10/01/2001", "10/01/2001", 5, "E", "S")});
-    app->Form11.DataOper.SetText("02/01/2001");
-    app->Form11.DataFinale.SetText("03/01/2001");
-    app->Form11.Combo1.SetText("Prelievo");
-    app->Form11.PulStampe.Click();
-    EXPECT_EQ(Righe()[5], "    dal 02/01/2001 al 03/01/2001  Causali selezionate: Prelievo  "
-                          "* movimenti non sospesi");
-    EXPECT_EQ(Stato.FlagOperazione, 0);
-}
-
 // No book in the dates: one page, its head, the fill from a count of 0 (52 and one more line,
 // beneath the head's own empty line) and the end mark.
 TEST_F(StampeTest, UnaSelezioneVuotaEUnaPaginaSola) {
