@@ -1,5 +1,6 @@
 // The page breaks of the list reports at their limits and one line past them, and the lines of
-// the cheque reports, whose tables no screen of this build fills yet.
+// the reports that no script prints: the cheque reports, whose tables no screen of this build
+// fills yet, and the lists of all accounts.
 #include "tests/ledger/AmbienteRegistro.h"
 
 #include "refdata/Causali.h"
@@ -115,7 +116,7 @@ TEST_F(StampeTest, IlBeneficiarioContaESpingeOltreIlLimite) {
     EXPECT_EQ(Pagine(), 2);
 }
 
-TEST_F(StampeTest, LeRigheDegliElenchiDegliAssegni) {
+TEST_F(StampeTest, LeRigheDegliElenchi) {
     Stato.NumAssegni = 3;
     Stato.Assegni[1] = Foglio(101, "15/02/2001", 200, "Mario Rossi", "Affitto", "N", "N");
     Stato.Assegni[2] = Foglio(102, "20/02/2001", 0, "", "Errato", "S", "S");
@@ -134,6 +135,21 @@ TEST_F(StampeTest, LeRigheDegliElenchiDegliAssegni) {
     c.FogliFuori = 7;
     ApriRecord(File(".CAR"), RecCarnet::Lunghezza, 1);
     ScriviRecord(c, 1, 1);
+    ChiudiRecord(1);
+    RecConto& conto = Stato.Conti[1];
+    conto.TipoConto = "Conto corrente";
+    conto.NomeBanca = "Banca Uno";
+    conto.Fido = 1500;
+    conto.abi = "1234";
+    conto.Cab = "5678";
+    conto.id = "9";
+    ApriRecord(dir.string() + "/Conti.dat", RecConto::Lunghezza, 1);
+    ScriviRecord(conto, 1, 1);
+    ChiudiRecord(1);
+    RecTotali totali;
+    totali.SaldoOperazione = -200;
+    ApriRecord(File(".TOT"), RecTotali::Lunghezza, 1);
+    ScriviRecord(totali, 1, 1);
     ChiudiRecord(1);
     Ord({Mov(1, "15/02/2001", "16/02/2001", 200, "U", "N", "AS", "101"),
          Mov(2, "16/02/2001", "16/02/2001", 9, "U", "N", "PR", "101")});
@@ -157,6 +173,15 @@ TEST_F(StampeTest, LeRigheDegliElenchiDegliAssegni) {
               "  3" + Sp(8),
           " 01/03/2001" + Sp(11) + "0,00" + Sp(10) + "103  Assegno non Emesso       " + " " +
               Sp(7) + "  3" + Sp(8)}},
+        {StampaConti,
+         {" 123" + Sp(9) + " Conto corrente  Banca Uno" + Sp(16) + "  " + Sp(5) + "1.500,00" +
+          " 1234-5678-9"}},
+        // The summary's lines have no leading blank; a debit eats into the credit line.
+        {StampaRiepilogo,
+         {Sp(5) + "123 Banca Uno" + Sp(23) + " " + Sp(6) + "-200,00 " + Sp(5) + "1.500,00 " +
+              Sp(5) + "1.300,00",
+          Sp(1) + std::string(94, '-'),
+          Sp(35) + "Totali " + Sp(6) + "-200,00 " + Sp(5) + "1.500,00 " + Sp(5) + "1.300,00"}},
     };
     for (const Caso& caso : casi) {
         porta.carta.clear();
