@@ -4,7 +4,8 @@ JOBS ?= $(shell nproc)
 BUILD := build
 ASAN := build/asan
 DEBS := g++ cmake make libgtest-dev libgmock-dev qt6-base-dev qt6-tools-dev libqt6uitools6 \
-        qt6-qpa-plugins libgl1-mesa-dev fonts-liberation xvfb xauth imagemagick
+        qt6-qpa-plugins libgl1-mesa-dev fonts-liberation xvfb xauth imagemagick \
+        poppler-utils
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 # A compiler cache, where the developer has one, makes rebuilds of other checkouts cheap.
 LAUNCHER := $(if $(shell command -v ccache),-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)

@@ -11,16 +11,31 @@
 #include <vector>
 
 namespace {
-// The two totals beneath the list keep these patterns whatever the decimals of the amounts.
-constexpr const char* FormatoEuroNonElencati = "#,###,###,##0.00";
-constexpr const char* FormatoEuroTotale = "#,###,###,###.##";
+// Index 0: the balance carried by the last close, always there, blank date and all when the
+// account was never closed.
+std::string RigaRiporto(double riporto) {
+    return Stato.Riporto[1].DataRiporto.Testo() + Space(12) + ImportoRiportato(riporto) +
+           ImportoColonna(riporto, 15) + "  Riporto Chiusura precedente";
+}
 
-std::string Importo(double euro, int larghezza) {
+std::string RigaMovimento(const RecMovimento& m, double saldo) {
+    std::string riga = m.DataOper.Testo() + "  " + m.DataValuta.Testo();
+    riga += ColonneImporto(m) + ImportoColonna(saldo, 15);
+    riga += "  " + DescrizioneCausale(m.Causale) + "  ";
+    return riga + Trim(m.NrDoc) + " " + m.DescMovim.Testo();
+}
+
+// The leading blanks mark the line as no movement of its own.
+void RigheAssegno(const RecMovimento& m, std::vector<std::string>& righe) {
+    for (const std::string& beneficiario : BeneficiariAssegno(m))
+        righe.push_back(Space(66) + beneficiario);
+}
+} // namespace
+
+std::string ImportoColonna(double euro, int larghezza) {
     return AllineaDestra(Format(euro * Stato.Cambio, Stato.FormatoImporti), larghezza);
 }
 
-// The description of the movement's causale, cut to 20 and trimmed: its width varies, and what
-// follows it in the line doesn't align.
 std::string DescrizioneCausale(const Fisso<5>& codice) {
     for (long j = 1; j <= Stato.NumCausali; ++j) {
         const RecCausale& causale = Stato.Causali[j];
@@ -29,34 +44,25 @@ std::string DescrizioneCausale(const Fisso<5>& codice) {
     return "";
 }
 
-// Index 0: the balance carried by the last close, always there, blank date and all when the
-// account was never closed. A positive amount stands two columns left of the incomes.
-std::string RigaRiporto(double riporto) {
-    std::string riga = Stato.Riporto[1].DataRiporto.Testo() + Space(12);
-    if (riporto <= 0) riga += " " + Importo(riporto, 15) + Space(11);
-    else riga += Space(10) + Importo(riporto, 15);
-    return riga + Importo(riporto, 15) + "  Riporto Chiusura precedente";
+std::string ColonneImporto(const RecMovimento& m) {
+    if (m.D_A == "E") return Space(12) + ImportoColonna(m.IMPORTO, 15);
+    return " " + ImportoColonna(m.IMPORTO, 15) + Space(11);
 }
 
-std::string RigaMovimento(const RecMovimento& m, double saldo) {
-    std::string riga = m.DataOper.Testo() + "  " + m.DataValuta.Testo();
-    if (m.D_A == "E") riga += Space(12) + Importo(m.IMPORTO, 15);
-    else riga += " " + Importo(m.IMPORTO, 15) + Space(11);
-    riga += Importo(saldo, 15);
-    riga += "  " + DescrizioneCausale(m.Causale) + "  ";
-    return riga + Trim(m.NrDoc) + " " + m.DescMovim.Testo();
+std::string ImportoRiportato(double riporto) {
+    if (riporto <= 0) return " " + ImportoColonna(riporto, 15) + Space(11);
+    return Space(10) + ImportoColonna(riporto, 15);
 }
 
-// The payee of each cheque whose number is the movement's document; the leading blanks mark
-// the line as no movement of its own.
-void RigheAssegno(const RecMovimento& m, std::vector<std::string>& righe) {
+std::vector<std::string> BeneficiariAssegno(const RecMovimento& m) {
+    std::vector<std::string> beneficiari;
     const double numero = Val(m.NrDoc);
     for (long j = 1; j <= Stato.NumAssegni; ++j) {
         const RecAssegno& assegno = Stato.Assegni[j];
-        if (assegno.NrAssegno == numero) righe.push_back(Space(66) + Trim(assegno.NoteAss));
+        if (assegno.NrAssegno == numero) beneficiari.push_back(Trim(assegno.NoteAss));
     }
+    return beneficiari;
 }
-} // namespace
 
 void LeggiOrdinati() {
     const short quanti = Stato.NumMovimenti;
@@ -127,13 +133,13 @@ void CostruisciElenco() {
     const std::string riga(86, '-');
     righe.push_back(riga);
     righe.push_back("Riporto saldo movimenti non elencati " + Space(12) +
-                    Importo(nonElencati, 15) + "  = Euro " +
+                    ImportoColonna(nonElencati, 15) + "  = Euro " +
                     Format(nonElencati, FormatoEuroNonElencati));
     righe.push_back(riga);
     // The carried line and the three lines above are no movements.
     const int movimenti = static_cast<int>(righe.size()) - 4;
-    righe.push_back("Saldo Contabile         " + Space(27) + Importo(totale, 13) + "  = Euro " +
-                    Format(totale, FormatoEuroTotale));
+    righe.push_back("Saldo Contabile         " + Space(27) + ImportoColonna(totale, 13) +
+                    "  = Euro " + Format(totale, FormatoEuroTotale));
     righe.push_back(Space(68) + "nr. movimenti: " + std::to_string(movimenti));
     righe.push_back("  ");
     consegna();

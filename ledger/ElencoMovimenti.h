@@ -4,6 +4,26 @@
 #include "store/RecordRegistro.h"
 
 #include <string>
+#include <vector>
+
+// The two totals beneath the list and its printed twin keep these patterns whatever the
+// decimals of the amounts.
+constexpr const char* FormatoEuroNonElencati = "#,###,###,##0.00";
+constexpr const char* FormatoEuroTotale = "#,###,###,###.##";
+
+// An amount in Euro in the currency on show, with the amount format, filled on the left to
+// `larghezza` and never cut.
+std::string ImportoColonna(double euro, int larghezza);
+// The description of a movement's causale, cut to 20 and trimmed: its width varies, and what
+// follows it in a line doesn't align.
+std::string DescrizioneCausale(const Fisso<5>& codice);
+// The amount of a movement in the two columns side by side: outgoings first, then incomes.
+std::string ColonneImporto(const RecMovimento& m);
+// The carried amount as the carried line shows it: a positive amount stands two columns left
+// of the incomes, zero and below one column right of the outgoings.
+std::string ImportoRiportato(double riporto);
+// The payees, trimmed, of the cheques whose number is the movement's document.
+std::vector<std::string> BeneficiariAssegno(const RecMovimento& m);
 
 // Movimenti dimensioned for NumMovimenti and filled with records 1 to NumMovimenti of .Ord, in
 // the order of the list by operation date. The table no longer mirrors .MOV until the account

@@ -3,14 +3,10 @@
 #include "ledger/ElencoMovimenti.h"
 #include "ledger/Form20.h"
 #include "refdata/Causali.h"
+#include "reports/Stampe.h"
 #include "shell/Applicazione.h"
 #include "store/Stato.h"
 #include "store/Testo.h"
-
-namespace {
-// The printed list of movements comes with the reports; until then there is nothing to print.
-void StampaElencoMovimenti() {}
-} // namespace
 
 Form11::Form11() {
     DataOper.ToolTipText = "data iniziale dei movimenti da elencare";
@@ -42,7 +38,7 @@ Form11::Form11() {
     // The report takes its selection from this screen while the flag is up.
     PulStampe.Click = [] {
         Stato.FlagOperazione = 1;
-        StampaElencoMovimenti();
+        StampaMovimenti();
         Stato.FlagOperazione = 0;
     };
     Esc.Click = [this] {

@@ -24,12 +24,6 @@ std::vector<Controllo*> ElenchiCaricati() {
     return elenchi;
 }
 
-void LeggiTabellaConti() {
-    ApriRecord(NomeFileDati("Conti.dat"), RecConto::Lunghezza, 1);
-    LeggiRecords(Stato.Conti.righe, 1, Stato.NumConti, 1);
-    ChiudiRecord(1);
-}
-
 void ScriviConto(short slot, long record) {
     ApriRecord(NomeFileDati("Conti.dat"), RecConto::Lunghezza, 1);
     ScriviRecord(Stato.Conti[slot], record, 1);
@@ -56,6 +50,12 @@ void ElencaConti() {
         elenco->Clear();
         for (short i = 1; i <= Stato.NumConti; ++i) elenco->AddItem(RigaConto(Stato.Conti[i]));
     }
+}
+
+void LeggiTabellaConti() {
+    ApriRecord(NomeFileDati("Conti.dat"), RecConto::Lunghezza, 1);
+    LeggiRecords(Stato.Conti.righe, 1, Stato.NumConti, 1);
+    ChiudiRecord(1);
 }
 
 void LeggiConti() {

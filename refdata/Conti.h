@@ -17,6 +17,8 @@ void ElencaConti();
 // lists. Visiting a directory leaves the two files behind, empty when they were missing. A
 // failure goes through ErroreDisco.
 void LeggiConti();
+// Records 1 to NumConti of Conti.dat into the table.
+void LeggiTabellaConti();
 
 // The number that a list line carries, untrimmed: its first 12 characters. A line added by
 // Conferma pads the number only to 10, so its " - " starts at the 11th: that line gives its

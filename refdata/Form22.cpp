@@ -3,12 +3,8 @@
 #include "refdata/Conti.h"
 #include "refdata/Form10.h"
 #include "refdata/Riepilogo.h"
+#include "reports/Stampe.h"
 #include "store/Testo.h"
-
-namespace {
-// The printed summary comes with the reports; until then there is nothing to print.
-void StampaRiepilogo() {}
-} // namespace
 
 Form22::Form22() {
     Dataop(0).SetText("Data Op.");

@@ -42,6 +42,7 @@ struct PiattaformaSenzaSchermo : PortaPiattaforma {
     void StampaRiga(const std::string& testo) override { carta.push_back("|" + testo + "|"); }
     void StampanteNuovaPagina() override { carta.push_back("{page}"); }
     void StampanteFine() override { carta.push_back("{end}"); }
+    void StampanteAnnulla() override { carta.push_back("{abandoned}"); }
 
     std::vector<std::string> Unita() override { return unita; }
 };

@@ -18,6 +18,7 @@ Applicazione::Applicazione() {
     CollegaMenuAnagrafe(MDIForm1);
     CollegaMenuConti(MDIForm1);
     CollegaMenuMovimenti(MDIForm1);
+    CollegaMenuStampe(MDIForm1);
     CollegaFinestraPrincipale(MDIForm1);
     CollegaMenuChiusure(MDIForm1);
     CollegaMenuInteressi(MDIForm1);

@@ -18,6 +18,7 @@
 #include "refdata/Form6.h"
 #include "refdata/Form7.h"
 #include "refdata/ManutCaus.h"
+#include "reports/Form21.h"
 #include "shell/Form1.h"
 #include "shell/MDIForm1.h"
 
@@ -41,6 +42,7 @@ struct Applicazione {
     ::Form26 Form26;
     ::Form28 Form28;
     ::Staffa Staffa;
+    ::Form21 Form21;
 
     Applicazione();
     ~Applicazione();

@@ -35,6 +35,7 @@ const std::map<int, std::string>& Descrizioni() {
         {75, "Errore di accesso al percorso/file"},
         {76, "Impossibile trovare il percorso"},
         {380, "Valore della proprietà non valido"},
+        {482, "Errore della stampante"},
     };
     return testi;
 }

@@ -47,6 +47,8 @@ struct PortaPiattaforma {
     virtual void StampaRiga(const std::string& testo) = 0;
     virtual void StampanteNuovaPagina() = 0;
     virtual void StampanteFine() = 0;
+    // A run broken by a failure: what it sent is thrown away, not printed with the next one.
+    virtual void StampanteAnnulla() {}
 
     // The mounted volumes, for the drive pickers.
     virtual std::vector<std::string> Unita() = 0;

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDate>
+#include <QDesktopServices>
 #include <QEventLoop>
 #include <QIcon>
 #include <QMainWindow>
@@ -15,7 +16,9 @@
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QStorageInfo>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -89,6 +92,17 @@ PiattaformaQt::PiattaformaQt() {
         return false;
     };
     chiusure_ = std::move(filtro);
+    // A report that became a PDF opens on the desktop, and the main window says where it is.
+    stampante.documentoPronto = [this](const std::string& percorso) {
+        const QString file = QString::fromStdString(percorso);
+        if (principale_) principale_->statusBar()->showMessage("Stampa salvata in " + file);
+        QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+    };
+}
+
+void PiattaformaQt::ImpostaStampante() {
+    stampante.Imposta(QApplication::activeWindow() ? QApplication::activeWindow()
+                                                   : principale_.data());
 }
 
 PiattaformaQt::~PiattaformaQt() {

@@ -2,6 +2,7 @@
 // The platform port on the desktop: message boxes, cursor, screens as windows of the main
 // window's area or as modal windows, and the volumes of the machine.
 #include "store/Piattaforma.h"
+#include "ui/StampanteQt.h"
 
 #include <QPointer>
 
@@ -29,8 +30,8 @@ struct PiattaformaQt : PortaPiattaforma {
     // Answers a box in the user's place: given the box ready to show, returns the button to
     // press. Unset, the box waits for the user.
     std::function<QAbstractButton*(QMessageBox&)> rispondi;
-    // The lines sent to the printer, kept here until the printed reports come.
-    std::vector<std::string> carta;
+    // The printer device; a finished PDF is opened on the desktop unless the test says otherwise.
+    StampanteQt stampante;
     bool terminato = false;
 
     Risposta MsgBox(const std::string& testo, const std::string& titolo, Icona icona,
@@ -45,13 +46,15 @@ struct PiattaformaQt : PortaPiattaforma {
     void ScaricaSchermo(Schermo& schermo) override;
     void Termina() override;
 
-    void StampanteFont(const std::string&) override {}
-    void StampanteCorpo(double) override {}
-    void StampanteGrassetto(bool) override {}
-    void StampanteTab(int) override {}
-    void StampaRiga(const std::string& testo) override { carta.push_back(testo); }
-    void StampanteNuovaPagina() override {}
-    void StampanteFine() override {}
+    void StampanteFont(const std::string& nome) override { stampante.Font(nome); }
+    void StampanteCorpo(double punti) override { stampante.Corpo(punti); }
+    void StampanteGrassetto(bool acceso) override { stampante.Grassetto(acceso); }
+    void StampanteTab(int colonna) override { stampante.Tab(colonna); }
+    void StampaRiga(const std::string& testo) override { stampante.Riga(testo); }
+    void StampanteNuovaPagina() override { stampante.NuovaPagina(); }
+    void StampanteFine() override { stampante.Fine(); }
+    void StampanteAnnulla() override { stampante.Annulla(); }
+    void ImpostaStampante() override;
 
     std::vector<std::string> Unita() override;
     void DisponiFinestre(int modo) override;

@@ -1,9 +1,8 @@
 #pragma once
-// The register's environment with its folder made the current directory, the data directory
+// The open account's environment, whose folder is the current directory, the data directory
 // "./" and the program directory "prog/", so that "./" and the 10-character stem fill exactly
 // the 12 characters of the owner field of .chi; and the files of a folder read whole.
-#include "../ledger/AmbienteRegistro.h"
-#include "../shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include <map>
 
@@ -14,14 +13,10 @@ inline std::map<std::string, Byte> Cartella(const fs::path& cartella) {
     return file;
 }
 
-class AmbienteChiusura : public AmbienteRegistro {
+class AmbienteChiusura : public AmbienteConto {
 protected:
-    fs::path prima;
-
     void SetUp() override {
-        AmbienteRegistro::SetUp();
-        prima = fs::current_path();
-        fs::current_path(dir);
+        AmbienteConto::SetUp();
         fs::create_directory("prog");
         Stato.PercorsoDati = "./";
         Stato.PercorsoProgramma = "prog/";
@@ -30,8 +25,7 @@ protected:
 
     void TearDown() override {
         GuastoAllaScrittura(0);
-        fs::current_path(prima);
-        AmbienteRegistro::TearDown();
+        AmbienteConto::TearDown();
     }
 
     static std::string File(const std::string& estensione) { return NomeFileConto(estensione); }

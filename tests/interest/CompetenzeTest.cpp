@@ -1,6 +1,6 @@
 // Interest, commissions and charges worked out by hand. Divisor 1 throughout, so numeri are
 // balance * days and the interest factor is 0.01.
-#include "tests/ledger/AmbienteRegistro.h"
+#include "tests/Ambiente.h"
 
 #include "interest/Competenze.h"
 #include "store/Formato.h"
@@ -16,9 +16,9 @@ std::string C(const std::string& s, std::size_t n = 16) {
 }
 } // namespace
 
-struct CompetenzeTest : AmbienteRegistro {
+struct CompetenzeTest : AmbienteConto {
     void SetUp() override {
-        AmbienteRegistro::SetUp();
+        AmbienteConto::SetUp();
         auto& o = Stato.OpzioniCalcolo;
         o.Divisore = 1;
         o.GiorniCreditori = "2";

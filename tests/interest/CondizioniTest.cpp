@@ -1,6 +1,6 @@
 // The five condition files as Conferma of Form26 writes them, compared with records laid out
 // byte by byte here, and the bad date that stops Conferma with nothing written.
-#include "tests/ledger/AmbienteRegistro.h"
+#include "tests/Ambiente.h"
 
 #include "interest/Form26.h"
 
@@ -33,7 +33,7 @@ Byte Zeri(std::size_t n) {
 }
 } // namespace
 
-struct CondizioniTest : AmbienteRegistro {
+struct CondizioniTest : AmbienteConto {
     Form26& f() { return app->Form26; }
     Byte Leggi(const std::string& estensione) {
         std::ifstream in(File(estensione), std::ios::binary);

@@ -1,5 +1,5 @@
 // Ladders worked out by hand: rows, days, numeri, excess rows and closing rows.
-#include "tests/ledger/AmbienteRegistro.h"
+#include "tests/Ambiente.h"
 
 #include "interest/Scala.h"
 
@@ -51,7 +51,7 @@ struct Caso {
 };
 } // namespace
 
-struct ScalaTest : AmbienteRegistro {};
+struct ScalaTest : AmbienteConto {};
 
 TEST_F(ScalaTest, Scale) {
     const std::vector<Caso> casi = {
