@@ -3,6 +3,7 @@
 #include "refdata/CausaliValute.h"
 #include "refdata/Conti.h"
 #include "shell/Avvio.h"
+#include "shell/Servizi.h"
 
 #include <cassert>
 
@@ -17,6 +18,7 @@ Applicazione::Applicazione() {
     CollegaMenuConti(MDIForm1);
     CollegaMenuMovimenti(MDIForm1);
     CollegaFinestraPrincipale(MDIForm1);
+    CollegaMenuServizi(MDIForm1);
 }
 
 Applicazione::~Applicazione() { corrente = nullptr; }

@@ -14,7 +14,12 @@
 #include "refdata/Form7.h"
 #include "refdata/ManutCaus.h"
 #include "shell/Form1.h"
+#include "shell/Form16.h"
+#include "shell/Form23.h"
+#include "shell/Form5.h"
+#include "shell/Help1.h"
 #include "shell/MDIForm1.h"
+#include "shell/passWord.h"
 
 struct Applicazione {
     ::MDIForm1 MDIForm1;
@@ -31,6 +36,11 @@ struct Applicazione {
     ::Form11 Form11;
     ::Form20 Form20;
     ::Form22 Form22;
+    ::Form23 Form23;
+    ::passWord passWord;
+    ::Form5 Form5;
+    ::Help1 Help1;
+    ::Form16 Form16;
 
     Applicazione();
     ~Applicazione();

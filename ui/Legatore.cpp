@@ -1,6 +1,8 @@
 #include "ui/Legatore.h"
 
 #include "screen/Schermo.h"
+#include "store/Colore.h"
+#include "store/Formato.h"
 #include "store/Guasto.h"
 
 #include <QAbstractListModel>
@@ -290,6 +292,29 @@ void ScriviCombo(QComboBox& combo, Legame& l) {
     if (combo.isEditable() && combo.currentText() != Q(c.Text())) combo.setEditText(Q(c.Text()));
 }
 
+// The user's colours on a list; -1 leaves the desktop's own.
+void ScriviColori(QWidget& w, const Controllo& c) {
+    QPalette tavolozza = w.palette();
+    auto tingi = [&tavolozza](QPalette::ColorRole ruolo, double colore) {
+        Rgb rgb = RgbDi(colore);
+        if (colore >= 0) tavolozza.setColor(ruolo, QColor(rgb.r, rgb.g, rgb.b));
+    };
+    tingi(QPalette::Base, c.BackColor);
+    tingi(QPalette::Text, c.ForeColor);
+    if (tavolozza != w.palette()) w.setPalette(tavolozza);
+}
+
+// A field with a format shows the amount in it while the focus is elsewhere, as typed while
+// it has it; a text that is no amount shows as it stands.
+std::string TestoMostrato(const Controllo& c) {
+    if (c.Formato.empty() || c.HaFuoco() || c.Text().empty()) return c.Text();
+    try {
+        return Format(ImportoDaTesto(c.Text()), c.Formato);
+    } catch (const ErroreEsecuzione&) {
+        return c.Text();
+    }
+}
+
 // Model to view for one control.
 void Scrivi(Legame& l) {
     QObject* o = l.oggetto;
@@ -315,8 +340,9 @@ void Scrivi(Legame& l) {
             int massimo = c.MaxLength > 0 ? c.MaxLength : 32767;
             if (campo->maxLength() != massimo) campo->setMaxLength(massimo);
         }
-        if (TestoDi(*campo, c) != c.Text()) {
-            campo->setText(Q(c.Text()));
+        std::string mostrato = TestoMostrato(c);
+        if (TestoDi(*campo, c) != mostrato) {
+            campo->setText(Q(mostrato));
             // An emptied date field takes the next digit in its first place, not after the mask.
             if (c.tipo == TipoControllo::Data && c.Text() == DataVuotaMaschera)
                 campo->setCursorPosition(0);
@@ -340,6 +366,7 @@ void Scrivi(Legame& l) {
     } else if (auto* combo = qobject_cast<QComboBox*>(w)) {
         ScriviCombo(*combo, l);
     } else if (auto* lista = qobject_cast<QListView*>(w)) {
+        ScriviColori(*lista, c);
         ScriviRighe(*lista, l);
     }
 }
