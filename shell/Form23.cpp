@@ -3,12 +3,15 @@
 #include "ledger/Registro.h"
 #include "refdata/Valute.h"
 #include "shell/Applicazione.h"
+#include "shell/Invio.h"
 #include "store/FileRecord.h"
 #include "store/Formato.h"
 #include "store/Guasto.h"
 #include "store/Piattaforma.h"
 #include "store/Stato.h"
 #include "store/Testo.h"
+
+#include <utility>
 
 namespace {
 void CaricaImpostazioni(Form23& f) {
@@ -33,15 +36,6 @@ void CaricaImpostazioni(Form23& f) {
             return;
         }
 }
-
-// Enter goes on to the next field, and is swallowed.
-void InvioVerso(Controllo& campo, Controllo& prossimo) {
-    campo.KeyPress = [&prossimo](int& tasto) {
-        if (tasto != TastoInvio) return;
-        tasto = 0;
-        prossimo.SetFocus();
-    };
-}
 } // namespace
 
 Form23::Form23() {
@@ -49,18 +43,17 @@ Form23::Form23() {
     contAvv.MaxLength = 12;
     NomeUt.MaxLength = 30;
     PassW.MaxLength = 10;
-    InvioVerso(NomeUt, PassW);
-    InvioVerso(PassW, PerAvv);
-    InvioVerso(PerAvv, contAvv);
-    InvioVerso(contAvv, Salva);
+    // Enter walks the fields in the order of the classic screen, not in tab order.
+    const std::pair<Controllo*, Controllo*> avanti[] = {
+        {&NomeUt, &PassW}, {&PassW, &PerAvv}, {&PerAvv, &contAvv}, {&contAvv, &Salva}};
+    for (auto [campo, prossimo] : avanti)
+        SuInvio(*campo, [prossimo] { prossimo->SetFocus(); });
+    SuInvio(Salva, SalvaImpostazioni);
     decimali.KeyPress = [](int& tasto) {
         if ((tasto >= '0' && tasto <= '3') || tasto == TastoBackspace || tasto == TastoInvio)
             return;
         Piattaforma().Beep();
         tasto = 0;
-    };
-    Salva.KeyPress = [](int& tasto) {
-        if (tasto == TastoInvio) SalvaImpostazioni();
     };
 
     S.Load = [this] { CaricaImpostazioni(*this); };

@@ -1,6 +1,7 @@
 #include "shell/passWord.h"
 
 #include "shell/Applicazione.h"
+#include "shell/Invio.h"
 #include "store/FileRecord.h"
 #include "store/Piattaforma.h"
 #include "store/Stato.h"
@@ -33,22 +34,13 @@ void Verifica(passWord& f) {
     f.Riuscito = true;
     f.S.Hide();
 }
-
-// Enter goes on to `prossimo` (and on the button, presses it).
-void Invio(Controllo& campo, std::function<void()> azione) {
-    campo.KeyPress = [azione](int& tasto) {
-        if (tasto != TastoInvio) return;
-        tasto = 0;
-        azione();
-    };
-}
 } // namespace
 
 passWord::passWord() {
     S.Figlio = false;
-    Invio(txtUserName, [this] { txtPassword.SetFocus(); });
-    Invio(txtPassword, [this] { cmdOK.SetFocus(); });
-    Invio(cmdOK, [this] { Verifica(*this); });
+    SuInvio(txtUserName, [this] { txtPassword.SetFocus(); });
+    SuInvio(txtPassword, [this] { cmdOK.SetFocus(); });
+    SuInvio(cmdOK, [this] { Verifica(*this); });
 
     // Torrelba is read and has no say in the check; opening it makes it when missing.
     S.Load = [this] {

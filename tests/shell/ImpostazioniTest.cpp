@@ -149,6 +149,7 @@ TEST_F(Impostazioni, IndirizzoDelSitoDellaBanca) {
         {"ftp://www.banca.it", ""},
         {"https://", ""},
         {".banca.it", ""},
+        {"www.banca.", ""},
         {"www..it", ""},
         {"www.banca_it.it", ""},
     };
