@@ -15,8 +15,8 @@ Help1::Help1() {
         if (!file) Errore(53);
         std::string byte{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
         std::string testo;
-        for (char c : Utf8DaCp1252(reinterpret_cast<const unsigned char*>(byte.data()),
-                                   byte.size()))
+        for (char c :
+             Utf8DaCp1252(reinterpret_cast<const unsigned char*>(byte.data()), byte.size()))
             if (c != '\r') testo += c;
         Text1.SetText(testo);
     };

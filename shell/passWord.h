@@ -14,8 +14,8 @@ struct passWord {
     Controllo cmdOK{S, TipoControllo::Pulsante, "cmdOK", "OK"};
     Controllo cmdCancel{S, TipoControllo::Pulsante, "cmdCancel", "Annulla"};
 
-    bool Riuscito = false;   // the user got in
-    int Tentativi = 0;       // failures since the screen loaded
+    bool Riuscito = false; // the user got in
+    int Tentativi = 0;     // failures since the screen loaded
 
     passWord();
 };

@@ -352,7 +352,9 @@ void Interprete::Colour() {
     if (scelta.size() != 7 || scelta[0] != '#' ||
         scelta.find_first_not_of("0123456789ABCDEFabcdef", 1) != std::string::npos)
         Rifiuta("not a colour #RRGGBB: " + scelta);
-    auto parte = [&scelta](std::size_t da) { return std::stoi(scelta.substr(da, 2), nullptr, 16); };
+    auto parte = [&scelta](std::size_t da) {
+        return std::stoi(scelta.substr(da, 2), nullptr, 16);
+    };
     piattaforma.colori.push_back(ValoreColore({parte(1), parte(3), parte(5)}));
 }
 

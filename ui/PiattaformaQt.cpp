@@ -398,7 +398,8 @@ bool PiattaformaQt::AvviaProgramma(const std::string& programma) {
 
 bool PiattaformaQt::ApriGuida(const std::string& file) {
     QFileInfo guida(QString::fromStdString(file));
-    return guida.exists() && QDesktopServices::openUrl(QUrl::fromLocalFile(guida.absoluteFilePath()));
+    return guida.exists() &&
+           QDesktopServices::openUrl(QUrl::fromLocalFile(guida.absoluteFilePath()));
 }
 
 bool PiattaformaQt::ApriBrowser(const std::string& indirizzo) {

@@ -70,16 +70,19 @@ TEST_F(Impostazioni, Form23ScriveIlRecordEIlProssimoAvvioLoSegue) {
 TEST_F(Impostazioni, AccessoAlQuartoErroreIlProgrammaFinisce) {
     using Prove = std::vector<std::pair<std::string, std::string>>;
     struct Caso {
-        const char *nome, *password;   // stored
-        Prove prove;                   // typed, one OK each
+        const char *nome, *password; // stored
+        Prove prove;                 // typed, one OK each
         bool ammesso;
         std::size_t messaggi;
     };
     const Caso casi[] = {
         {"", "", {{"", ""}}, true, 0},
         {"Mario", "pw", {{"Mario", "pw"}}, true, 0},
-        {"Mario", "pw", {{"Mario ", "pw"}, {"mario", "pw"}, {"Mario", "PW"}, {"Mario", "pw"}},
-         true, 3},
+        {"Mario",
+         "pw",
+         {{"Mario ", "pw"}, {"mario", "pw"}, {"Mario", "PW"}, {"Mario", "pw"}},
+         true,
+         3},
         {"Mario", "pw", {{"x", ""}, {"y", ""}, {"z", ""}, {"w", ""}}, false, 5},
         {"Mario", "pw", {{"x", ""}, {"y", ""}, {"z", ""}, {"Mario", "p"}}, false, 5},
     };
