@@ -5,6 +5,7 @@
 #include "refdata/Causali.h"
 #include "reports/Stampe.h"
 #include "shell/Applicazione.h"
+#include "shell/Colori.h"
 #include "store/Stato.h"
 #include "store/Testo.h"
 
@@ -17,6 +18,7 @@ Form11::Form11() {
     Tutti.ToolTipText = "Seleziona l'inervallo tra tutte le date";
 
     S.Load = [this] {
+        ColoriElenchi({&List1});
         Stato.ElencoAperto = 1;
         const Form9& e = App().Form9;
         DataOper.SetText(e.DataInizSel.Text());

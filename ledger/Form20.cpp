@@ -30,6 +30,7 @@ void Riempi(Form20& f, const RecMovimento& m) {
     f.DescrCausale.SetText(DescrizioneDi(m.Causale));
     f.Sospeso.SetText(m.Sospeso);
     f.D_A.SetText(m.D_A);
+    f.IMPORTO.Formato = Stato.FormatoImporti;
     f.IMPORTO.SetText(Format(m.IMPORTO * Stato.Cambio, Stato.FormatoImporti));
     f.NrDoc.SetText(m.NrDoc);
     f.DescMovim.SetText(m.DescMovim);

@@ -7,6 +7,7 @@
 #include "ledger/Immissione.h"
 #include "ledger/Registro.h"
 #include "shell/Applicazione.h"
+#include "shell/Colori.h"
 #include "store/Date.h"
 #include "store/FileRecord.h"
 #include "store/Piattaforma.h"
@@ -118,7 +119,9 @@ Form9::Form9() {
     Command1.Enabled = false;
 
     S.Load = [this] {
+        ColoriElenchi({&ElencoMovim, &elencoValuta});
         IMPORTO.SetText("");
+        IMPORTO.Formato = Stato.FormatoImporti;
         if (Val(Stato.PrimaDataOperazione) == 0) {
             DataFineSel.SetText(Oggi());
             DataInizSel.SetText(Oggi());

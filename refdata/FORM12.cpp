@@ -2,6 +2,7 @@
 
 #include "refdata/Causali.h"
 #include "shell/Applicazione.h"
+#include "shell/Colori.h"
 #include "store/Guasto.h"
 #include "store/Stato.h"
 #include "store/Testo.h"
@@ -20,7 +21,10 @@ Controllo& CampoDi(const std::string& schermo, const std::string& campo) {
 FORM12::FORM12() {
     S.Figlio = false;
     List1.Sorted = true;
-    S.Load = [this] { RiempiElencoCausali(List1); };
+    S.Load = [this] {
+        RiempiElencoCausali(List1);
+        ColoriElenchi({&List1});
+    };
     OK.Click = ScegliCausale;
     List1.DblClick = ScegliCausale;
     Command2.Click = [this] { S.Hide(); };

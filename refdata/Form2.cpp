@@ -2,6 +2,7 @@
 
 #include "refdata/Conti.h"
 #include "shell/Applicazione.h"
+#include "shell/Colori.h"
 #include "store/Formato.h"
 #include "store/Guasto.h"
 #include "store/Piattaforma.h"
@@ -110,6 +111,7 @@ Form2::Form2() {
         CodConto.Enabled = true;
         Del.Enabled = false;
         PreparaScelta(Scelta, Stato.PercorsoDati);
+        ColoriElenchi({&ListaConti});
     };
     S.Activate = [this] { DirectoryScelta(Scelta, NomeFile); };
 }

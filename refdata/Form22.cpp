@@ -4,6 +4,7 @@
 #include "refdata/Form10.h"
 #include "refdata/Riepilogo.h"
 #include "reports/Stampe.h"
+#include "shell/Colori.h"
 #include "store/Testo.h"
 
 Form22::Form22() {
@@ -12,7 +13,10 @@ Form22::Form22() {
     Dataop(0).SetValue(true);
     List1.Sorted = true;
 
-    S.Load = ElencaRiepilogo;
+    S.Load = [this] {
+        ColoriElenchi({&List1});
+        ElencaRiepilogo();
+    };
     Dataop(0).Click = ElencaRiepilogo;
     Dataop(1).Click = ElencaRiepilogo;
     // The number stands in the first twelve characters of the line.

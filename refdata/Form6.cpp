@@ -2,6 +2,7 @@
 
 #include "refdata/Causali.h"
 #include "shell/Applicazione.h"
+#include "shell/Colori.h"
 #include "store/FileRecord.h"
 #include "store/Piattaforma.h"
 #include "store/Stato.h"
@@ -65,6 +66,7 @@ Form6::Form6() {
         DarAver(0).SetValue(true);
         SospesoSiNo(0).SetValue(true);
         RiempiElencoCausali(ElencoCausali);
+        ColoriElenchi({&ElencoCausali});
     };
     S.Activate = [this] {
         Stato.IndiceCausale = 0;

@@ -3,6 +3,7 @@
 #include "refdata/Conti.h"
 #include "refdata/Form10.h"
 #include "shell/Applicazione.h"
+#include "shell/Colori.h"
 #include "store/Stato.h"
 #include "store/Testo.h"
 
@@ -29,6 +30,9 @@ Form7::Form7() {
     NomeFile.ToolTipText = "percorso dati attualmente selezionato";
     CollegaScelta(Scelta);
     Scelta.Change = [this] { DirectoryScelta(Scelta, NomeFile); };
-    S.Load = [this] { PreparaScelta(Scelta, Stato.PercorsoDati); };
+    S.Load = [this] {
+        PreparaScelta(Scelta, Stato.PercorsoDati);
+        ColoriElenchi({&List1});
+    };
     S.Activate = [this] { DirectoryScelta(Scelta, NomeFile); };
 }

@@ -2,6 +2,7 @@
 
 #include "refdata/Causali.h"
 #include "shell/Applicazione.h"
+#include "shell/Colori.h"
 #include "store/FileRecord.h"
 #include "store/Piattaforma.h"
 #include "store/Stato.h"
@@ -26,6 +27,7 @@ ManutCaus::ManutCaus() {
     ElencoCausali.Sorted = true;
     List1.Sorted = true;
     S.Load = [this] {
+        ColoriElenchi({&ElencoCausali, &List1});
         LeggiCausali();
         for (short i = 1; i <= Stato.NumCausali; ++i)
             ElencoCausali.AddItem(RigaManutenzione(Stato.Causali[i]));

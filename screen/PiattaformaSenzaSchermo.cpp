@@ -1,6 +1,9 @@
 #include "screen/PiattaformaSenzaSchermo.h"
 
 #include "screen/Schermo.h"
+#include "store/Colore.h"
+
+#include <algorithm>
 
 #include <chrono>
 #include <cstdio>
@@ -45,4 +48,38 @@ void PiattaformaSenzaSchermo::StampanteCorpo(double punti) {
     char testo[32];
     std::snprintf(testo, sizeof testo, "%g", punti);
     carta.push_back(std::string("{size ") + testo + "}");
+}
+
+bool PiattaformaSenzaSchermo::ScegliColore(double& colore) {
+    std::optional<double> scelto;
+    if (!colori.empty()) {
+        scelto = colori.front();
+        colori.pop_front();
+    }
+    if (!scelto) {
+        messaggi.push_back("COLOUR cancelled");
+        return false;
+    }
+    colore = *scelto;
+    Rgb c = RgbDi(colore);
+    char testo[16];
+    std::snprintf(testo, sizeof testo, "#%02X%02X%02X", c.r, c.g, c.b);
+    messaggi.push_back(std::string("COLOUR ") + testo);
+    return true;
+}
+
+bool PiattaformaSenzaSchermo::AvviaProgramma(const std::string& programma) {
+    if (std::find(programmi.begin(), programmi.end(), programma) == programmi.end()) return false;
+    messaggi.push_back("RUN " + programma);
+    return true;
+}
+
+bool PiattaformaSenzaSchermo::ApriGuida(const std::string& file) {
+    messaggi.push_back("HELP " + file);
+    return true;
+}
+
+bool PiattaformaSenzaSchermo::ApriBrowser(const std::string& indirizzo) {
+    messaggi.push_back("BROWSER " + indirizzo);
+    return true;
 }

@@ -15,6 +15,8 @@ struct PiattaformaSenzaSchermo : PortaPiattaforma {
     std::vector<std::string> messaggi;        // "[TITLE] TEXT -> ANSWER", "BEEP", "FAILURE N ..."
     std::vector<std::string> carta;           // "|line|", "{font NAME}", "{page}", ...
     std::vector<std::string> unita{"/"};      // the mounted volumes the drive pickers list
+    std::deque<std::optional<double>> colori; // colour dialogs: a colour, or nullopt to cancel
+    std::vector<std::string> programmi;       // the outside programs installed
     bool terminato = false;
     bool clessidra = false;
     // Runs the user's events while a modal screen is up; it must return once the screen is down.
@@ -45,4 +47,11 @@ struct PiattaformaSenzaSchermo : PortaPiattaforma {
     void StampanteAnnulla() override { carta.push_back("{abandoned}"); }
 
     std::vector<std::string> Unita() override { return unita; }
+
+    // With no answer queued the colour dialog is cancelled. The transcript gets "COLOUR #RRGGBB"
+    // or "COLOUR cancelled", "RUN program", "HELP file", "BROWSER address".
+    bool ScegliColore(double& colore) override;
+    bool AvviaProgramma(const std::string& programma) override;
+    bool ApriGuida(const std::string& file) override;
+    bool ApriBrowser(const std::string& indirizzo) override;
 };

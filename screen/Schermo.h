@@ -58,6 +58,11 @@ struct Controllo {
     bool Sorted = false;        // lists and combos: lines kept as case-insensitive sorted text
     std::string Gruppo;         // options: the group in which one is on ("" = the whole screen)
     Controllo* MenuPadre = nullptr;   // a menu entry: the menu or submenu that holds it
+    // Lists: background and text colour (store/Colore.h); -1 keeps the desktop's own.
+    double BackColor = -1, ForeColor = -1;
+    // Fields: the pattern (store/Formato.h) in which the view shows the typed amount while the
+    // field hasn't the focus; "" shows the text as it is.
+    std::string Formato;
 
     std::function<void()> Click, DblClick, Change, GotFocus, LostFocus;
     std::function<void(int& KeyAscii)> KeyPress;   // setting KeyAscii to 0 drops the key

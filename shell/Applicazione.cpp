@@ -5,6 +5,7 @@
 #include "refdata/CausaliValute.h"
 #include "refdata/Conti.h"
 #include "shell/Avvio.h"
+#include "shell/Servizi.h"
 
 #include <cassert>
 
@@ -22,6 +23,7 @@ Applicazione::Applicazione() {
     CollegaFinestraPrincipale(MDIForm1);
     CollegaMenuChiusure(MDIForm1);
     CollegaMenuInteressi(MDIForm1);
+    CollegaMenuServizi(MDIForm1);
 }
 
 Applicazione::~Applicazione() { corrente = nullptr; }

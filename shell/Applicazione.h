@@ -20,7 +20,12 @@
 #include "refdata/ManutCaus.h"
 #include "reports/Form21.h"
 #include "shell/Form1.h"
+#include "shell/Form16.h"
+#include "shell/Form23.h"
+#include "shell/Form5.h"
+#include "shell/Help1.h"
 #include "shell/MDIForm1.h"
+#include "shell/passWord.h"
 
 struct Applicazione {
     ::MDIForm1 MDIForm1;
@@ -43,6 +48,11 @@ struct Applicazione {
     ::Form28 Form28;
     ::Staffa Staffa;
     ::Form21 Form21;
+    ::Form23 Form23;
+    ::passWord passWord;
+    ::Form5 Form5;
+    ::Help1 Help1;
+    ::Form16 Form16;
 
     Applicazione();
     ~Applicazione();

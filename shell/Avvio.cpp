@@ -5,6 +5,7 @@
 #include "shell/Applicazione.h"
 #include "shell/PrimoAvvio.h"
 #include "shell/Uscita.h"
+#include "shell/passWord.h"
 #include "shell/Valuta.h"
 #include "store/FileRecord.h"
 #include "store/Formato.h"
@@ -66,7 +67,8 @@ void CaricaFinestraPrincipale(const std::string& cartellaProgramma) {
     LeggiValute();
     ValutaIniziale();
 
-    if (Stato.Imposta.accesso == -1) ControllaAccesso();
+    // A refused or cancelled access has ended the program: nothing more is opened.
+    if (Stato.Imposta.accesso == -1 && !ControllaAccesso()) return;
     // "ABC" has the value 0 and is never opened at the start.
     if (Val(Trim(Stato.Imposta.contAvv)) != 0) ApriContoIniziale();
 }
@@ -88,8 +90,6 @@ void CollegaFinestraPrincipale(MDIForm1& f) {
     f.AffVert.Click = [] { Piattaforma().DisponiFinestre(2); };
     f.DispIcon.Click = [] { Piattaforma().DisponiFinestre(3); };
 }
-
-void ControllaAccesso() {}
 
 void ApriContoIniziale() {
     MDIForm1& f = App().MDIForm1;

@@ -13,10 +13,6 @@ void AvviaProgramma(const std::string& cartellaProgramma);
 // sets them when it is made.
 void CollegaFinestraPrincipale(MDIForm1& f);
 
-// The access check of the start, when the preferences ask for it. The screen `passWord` comes
-// with the preferences; until then the start goes on at once.
-void ControllaAccesso();
-
 // Opens the stored start account: its code is looked up among the accounts, the main window
 // shows it and the entry screen, coming up, loads it.
 void ApriContoIniziale();

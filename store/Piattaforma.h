@@ -55,10 +55,14 @@ struct PortaPiattaforma {
 
     // Later needs; the headless side does nothing.
     virtual void ImpostaStampante() {}
+    // The colour dialog, starting from `colore` (see store/Colore.h); false when cancelled.
     virtual bool ScegliColore(double& /*colore*/) { return false; }
-    virtual void AvviaProgramma(const std::string& /*comando*/) {}
-    virtual void ApriGuida(const std::string& /*file*/) {}
-    virtual void ApriBrowser(const std::string& /*indirizzo*/) {}
+    // Starts the desktop program `programma`, found on the path, without waiting for it; false
+    // when it isn't installed.
+    virtual bool AvviaProgramma(const std::string& /*programma*/) { return false; }
+    // A file or a web address in the desktop's own viewer or browser; false when none takes it.
+    virtual bool ApriGuida(const std::string& /*file*/) { return false; }
+    virtual bool ApriBrowser(const std::string& /*indirizzo*/) { return false; }
     // Arranges the child screens of the main window: 0 cascade, 1 tile horizontally, 2 tile
     // vertically, 3 arrange the icons (the classic Arrange values).
     virtual void DisponiFinestre(int /*modo*/) {}

@@ -4,6 +4,7 @@
 #include "screen/Schermo.h"
 #include "shell/Applicazione.h"
 #include "shell/Avvio.h"
+#include "store/Colore.h"
 #include "store/Cp1252.h"
 #include "store/Date.h"
 #include "store/FileRecord.h"
@@ -162,6 +163,8 @@ struct Interprete {
     void Start();
     void Demo();
     void Answer();
+    void Colour();
+    void Installed();
     void Menu();
     void Show();
     void Focus();
@@ -207,6 +210,8 @@ const std::map<std::string, Comando>& Comandi() {
         {"state", &Interprete::State},       {"messages", &Interprete::Messages},
         {"paper", &Interprete::Paper},       {"records", &Interprete::Records},
         {"include", &Interprete::Include},
+        {"paper", &Interprete::Paper},       {"colour", &Interprete::Colour},
+        {"installed", &Interprete::Installed},
     };
     return comandi;
 }
@@ -422,6 +427,27 @@ void Interprete::Answer() {
             return;
         }
     Rifiuta("unknown button " + nome);
+}
+
+void Interprete::Colour() {
+    std::string scelta = Parola();
+    FineRiga();
+    if (scelta == "Annulla") {
+        piattaforma.colori.push_back(std::nullopt);
+        return;
+    }
+    if (scelta.size() != 7 || scelta[0] != '#' ||
+        scelta.find_first_not_of("0123456789ABCDEFabcdef", 1) != std::string::npos)
+        Rifiuta("not a colour #RRGGBB: " + scelta);
+    auto parte = [&scelta](std::size_t da) {
+        return std::stoi(scelta.substr(da, 2), nullptr, 16);
+    };
+    piattaforma.colori.push_back(ValoreColore({parte(1), parte(3), parte(5)}));
+}
+
+void Interprete::Installed() {
+    piattaforma.programmi.push_back(Parola());
+    FineRiga();
 }
 
 void Interprete::Menu() {

@@ -16,6 +16,9 @@
 //                            of the framework use
 //   answer BUTTON            queues OK, Annulla, Riprova, Ignora, Interrompi, Si or No for the
 //                            next message box; with none queued a box takes its default button
+//   colour #RRGGBB|Annulla   queues the choice of the next colour dialog; with none queued the
+//                            dialog is cancelled
+//   installed PROGRAM        an outside program that the desktop has (the calculators)
 //   menu NAME                chooses an entry of the main window's menus
 //   show SCREEN              shows a screen as the program does (load, activate)
 //   focus REF                moves the focus there

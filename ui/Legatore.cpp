@@ -1,6 +1,8 @@
 #include "ui/Legatore.h"
 
 #include "screen/Schermo.h"
+#include "store/Colore.h"
+#include "store/Formato.h"
 #include "store/Guasto.h"
 
 #include <QAbstractListModel>
@@ -212,6 +214,17 @@ void CollegaCampo(Filtro& f, Legame& l) {
     });
 }
 
+// A field with a format shows the amount in it while the focus is elsewhere, as typed while
+// it has it; a text that is no amount shows as it stands.
+std::string TestoMostrato(const Controllo& c) {
+    if (c.Formato.empty() || c.HaFuoco() || c.Text().empty()) return c.Text();
+    try {
+        return Format(ImportoDaTesto(c.Text()), c.Formato);
+    } catch (const ErroreEsecuzione&) {
+        return c.Text();
+    }
+}
+
 void ScriviCampo(Legame& l) {
     const Controllo& c = *l.c;
     auto& campo = static_cast<QLineEdit&>(*l.oggetto);
@@ -219,8 +232,9 @@ void ScriviCampo(Legame& l) {
         int massimo = c.MaxLength > 0 ? c.MaxLength : 32767;
         if (campo.maxLength() != massimo) campo.setMaxLength(massimo);
     }
-    if (TestoDi(campo, c) != c.Text()) {
-        campo.setText(Q(c.Text()));
+    std::string mostrato = TestoMostrato(c);
+    if (TestoDi(campo, c) != mostrato) {
+        campo.setText(Q(mostrato));
         // An emptied date field takes the next digit in its first place, not after the mask.
         if (c.tipo == TipoControllo::Data && c.Text() == DataVuotaMaschera)
             campo.setCursorPosition(0);
@@ -323,9 +337,22 @@ void CollegaLista(Filtro& f, Legame& l) {
     QObject::connect(lista, &QListView::doubleClicked, &f, Evento(c, &Controllo::DoppioClic));
 }
 
+// The user's colours on a list; -1 leaves the desktop's own.
+void ScriviColori(QWidget& w, const Controllo& c) {
+    QPalette tavolozza = w.palette();
+    auto tingi = [&tavolozza](QPalette::ColorRole ruolo, double colore) {
+        Rgb rgb = RgbDi(colore);
+        if (colore >= 0) tavolozza.setColor(ruolo, QColor(rgb.r, rgb.g, rgb.b));
+    };
+    tingi(QPalette::Base, c.BackColor);
+    tingi(QPalette::Text, c.ForeColor);
+    if (tavolozza != w.palette()) w.setPalette(tavolozza);
+}
+
 void ScriviLista(Legame& l) {
     const Controllo& c = *l.c;
     auto& lista = static_cast<QListView&>(*l.oggetto);
+    ScriviColori(lista, c);
     int scorrimento = lista.verticalScrollBar()->value();
     if (l.righe->Aggiorna(c)) lista.verticalScrollBar()->setValue(scorrimento);
     if (lista.currentIndex().row() == c.ListIndex()) return;

@@ -1,22 +1,27 @@
 #include "ui/PiattaformaQt.h"
 
 #include "screen/Schermo.h"
+#include "store/Colore.h"
 #include "ui/Legatore.h"
 #include "ui/Moduli.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QColorDialog>
 #include <QDate>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QIcon>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QProcess>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QStandardPaths>
 #include <QStorageInfo>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -387,4 +392,28 @@ void PiattaformaQt::DisponiIcone() {
             f->move(x, fondo - f->height());
             x += f->width();
         }
+}
+
+bool PiattaformaQt::ScegliColore(double& colore) {
+    Rgb c = RgbDi(colore);
+    QColor scelto = QColorDialog::getColor(QColor(c.r, c.g, c.b), QApplication::activeWindow(),
+                                           "Colore");
+    if (!scelto.isValid()) return false;
+    colore = ValoreColore({scelto.red(), scelto.green(), scelto.blue()});
+    return true;
+}
+
+bool PiattaformaQt::AvviaProgramma(const std::string& programma) {
+    QString eseguibile = QStandardPaths::findExecutable(QString::fromStdString(programma));
+    return !eseguibile.isEmpty() && QProcess::startDetached(eseguibile, {});
+}
+
+bool PiattaformaQt::ApriGuida(const std::string& file) {
+    QFileInfo guida(QString::fromStdString(file));
+    return guida.exists() &&
+           QDesktopServices::openUrl(QUrl::fromLocalFile(guida.absoluteFilePath()));
+}
+
+bool PiattaformaQt::ApriBrowser(const std::string& indirizzo) {
+    return QDesktopServices::openUrl(QUrl(QString::fromStdString(indirizzo), QUrl::StrictMode));
 }

@@ -58,6 +58,10 @@ struct PiattaformaQt : PortaPiattaforma {
 
     std::vector<std::string> Unita() override;
     void DisponiFinestre(int modo) override;
+    bool ScegliColore(double& colore) override;
+    bool AvviaProgramma(const std::string& programma) override;
+    bool ApriGuida(const std::string& file) override;
+    bool ApriBrowser(const std::string& indirizzo) override;
 
     // Runs the user's events until the program ends.
     void Esegui();
