@@ -9,6 +9,9 @@
 #include "store/Testo.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -36,16 +39,77 @@ struct DescrizioniInElenco {
     }
 };
 
+// The amounts of the lists as Format shows them with the pattern of the amounts, right-aligned
+// in 15 columns. With the program's own patterns, "#,###,###,##0" with 0 to 4 decimals, an
+// amount below 10^9 within a millionth of a whole number of its smallest units is written
+// straight from that number: the product's rounding (below 10^-3 of a unit) and Format's own
+// rounding to 15 digits (half of 10^-6 of the amount, 5 * 10^-3 of a unit) together stay far
+// from the half that would round it to another. Anything else goes through Format.
+struct ImportiInElenco {
+    int decimali = -1;    // -1: a pattern of another kind
+
+    ImportiInElenco() {
+        for (int d = 0; d <= 4; ++d)
+            if (Stato.FormatoImporti == FormatoImportiPerDecimali(d)) decimali = d;
+    }
+
+    void Accoda(std::string& riga, double importo) const {
+        constexpr double Scala[] = {1, 10, 100, 1000, 10000};
+        const double assoluto = std::fabs(importo);
+        const double unita = decimali < 0 ? 0 : assoluto * Scala[decimali];
+        const double intero = std::nearbyint(unita);
+        if (decimali < 0 || !(assoluto < 1e9) || std::fabs(unita - intero) >= 1e-6) {
+            riga += AllineaDestra(Format(importo, Stato.FormatoImporti), 15);
+            return;
+        }
+        char cifre[24];
+        char* fine = std::to_chars(cifre, cifre + sizeof cifre,
+                                   static_cast<std::uint64_t>(intero)).ptr;
+        // At least one integer digit: "0" is the last integer place of the pattern.
+        int n = static_cast<int>(fine - cifre);
+        const int zeri = std::max(0, decimali + 1 - n);
+        char testo[40];
+        char* uscita = testo;
+        if (importo < 0) *uscita++ = '-';
+        const int interi = n + zeri - decimali;
+        for (int r = interi - 1, i = -zeri; r >= 0; --r, ++i) {
+            *uscita++ = i < 0 ? '0' : cifre[i];
+            if (r > 0 && r % 3 == 0) *uscita++ = '.';
+        }
+        if (decimali > 0) {
+            *uscita++ = ',';
+            for (int i = interi - zeri; i < n; ++i) *uscita++ = i < 0 ? '0' : cifre[i];
+        }
+        const auto lunghezza = static_cast<std::size_t>(uscita - testo);
+        if (lunghezza < 15) riga.append(15 - lunghezza, ' ');
+        riga.append(testo, lunghezza);
+    }
+};
+
+// Riga's text, written into one string as it goes. Each number takes the shortcut its
+// general form would give for it: the date number is a whole number, which Str writes as its
+// digits behind a blank or "-"; a movement's number from 0 up is "0000"'s four digits or more.
 std::string Riga(const RecMovimento& m, const std::string& dataChiave, bool marcaAnnullato,
-                 DescrizioniInElenco& descrizioni) {
-    std::string riga = Str(NumeroIntero(dataChiave));
-    riga.reserve(120);
+                 DescrizioniInElenco& descrizioni, const ImportiInElenco& importi) {
+    std::string riga;
+    riga.reserve(128);
+    char cifre[24];
+    const long long chiave = NumeroIntero(dataChiave);
+    riga += chiave < 0 ? '-' : ' ';
+    riga.append(cifre, std::to_chars(cifre, cifre + sizeof cifre,
+                                     chiave < 0 ? -chiave : chiave).ptr);
     riga += "  ";
     riga += m.DataOper.Vista();
     riga += ' ';
     riga += m.DataValuta.Vista();
     riga += ' ';
-    riga += Format(m.NrOper, "0000");
+    if (m.NrOper < 0) {
+        riga += Format(m.NrOper, "0000");
+    } else {
+        char* fine = std::to_chars(cifre, cifre + sizeof cifre, m.NrOper).ptr;
+        if (fine - cifre < 4) riga.append(static_cast<std::size_t>(4 - (fine - cifre)), '0');
+        riga.append(cifre, fine);
+    }
     riga += ' ';
     riga += descrizioni.Di(m.Causale);
     riga += "  ";
@@ -53,9 +117,14 @@ std::string Riga(const RecMovimento& m, const std::string& dataChiave, bool marc
     riga += "   ";
     riga += m.D_A.Vista();
     riga += "  ";
-    riga += AllineaDestra(Trim(m.NrDoc), 8);
+    std::string_view documento = m.NrDoc.Vista();
+    documento.remove_prefix(std::min(documento.find_first_not_of(' '), documento.size()));
+    documento.remove_suffix(documento.size() - (documento.find_last_not_of(' ') + 1));
+    const int caratteri = Len(std::string(documento));
+    if (caratteri < 8) riga.append(static_cast<std::size_t>(8 - caratteri), ' ');
+    riga += documento;
     riga += ' ';
-    riga += AllineaDestra(Format(m.IMPORTO * Stato.Cambio, Stato.FormatoImporti), 15);
+    importi.Accoda(riga, m.IMPORTO * Stato.Cambio);
     if (marcaAnnullato) riga += " *";
     if (m.Sospeso == "N") riga += " *";
     return riga;
@@ -130,6 +199,7 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
     };
     try {
         DescrizioniInElenco descrizioni;
+        const ImportiInElenco importi;
         long da = 0, a = 0;
         for (long i = 1; i <= Stato.NumMovimenti; ++i) {
             const RecMovimento& m = Stato.Movimenti[i];
@@ -140,7 +210,7 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
             }
             if (giorno >= da && giorno <= a)
                 righe.push_back(Riga(m, m.*data, marcaAnnullato && m.Annullato == "S",
-                                     descrizioni));
+                                     descrizioni, importi));
         }
     } catch (...) {
         consegna();
@@ -154,7 +224,7 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
 std::string RigaElenco(const RecMovimento& m, const std::string& dataChiave,
                        bool marcaAnnullato) {
     DescrizioniInElenco descrizioni;
-    return Riga(m, dataChiave, marcaAnnullato, descrizioni);
+    return Riga(m, dataChiave, marcaAnnullato, descrizioni, ImportiInElenco());
 }
 
 int NumeroDaRiga(const std::string& riga) {
