@@ -3,7 +3,10 @@
 #   (a) a whole marendola-script process: start, opening of that account as the start account,
 #       print of the balances; mean of 20 runs (target below 25 ms), timed by bash's own clock:
 #       a `date` process before and after each run would add some 7 ms to it;
-#   (b) one new movement in-process, with the whole rewrite of .Ord; mean of 50 (below 5 ms).
+#   (b) one new movement in-process, with the whole rewrite of .Ord; mean of 50 (below 5 ms);
+#   (c) the CPU time (user + sys) of (a) against `ledger -f J bal` on the same movements written
+#       as a journal: runs of the two in turn, medians, and their ratio. CPU time rather than
+#       the clock, and the ratio rather than the times alone: the machines are shared.
 # Usage: tools/bench.sh BUILD_DIR
 set -euo pipefail
 
@@ -49,3 +52,27 @@ printf '(a) avvio + apertura + saldi, processo intero: %d.%03d ms (media di %d)\
 
 printf '(b) un movimento nuovo con riscrittura di .Ord: %s ms (media di 50)\n' \
     "$("$bench" aggiungi "$work/prog")"
+
+# CPU milliseconds (user + sys) of one run of a command, its output dropped.
+cpu_ms() {
+    local TIMEFORMAT='%3U %3S' tempi
+    tempi=$({ time "$@" > /dev/null; } 2>&1)
+    awk '{ printf "%d\n", ($1 + $2) * 1000 + 0.5 }' <<< "$tempi"
+}
+
+mediana() { sort -n | awk '{ v[NR] = $1 } END { print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2 }'; }
+
+"$bench" diario "$work/diario.ledger"
+giri=9
+: > prodotto.ms
+: > ledger.ms
+for ((i = 0; i < giri; i++)); do
+    cpu_ms "$driver" apri.script >> prodotto.ms
+    cpu_ms ledger -f "$work/diario.ledger" bal >> ledger.ms
+done
+prodotto=$(mediana < prodotto.ms)
+riferimento=$(mediana < ledger.ms)
+printf '(c) tempo di CPU, mediane di %d giri alterni: prodotto %s ms, ledger bal %s ms\n' \
+    "$giri" "$prodotto" "$riferimento"
+awk -v p="$prodotto" -v l="$riferimento" \
+    'BEGIN { printf "    ledger bal / prodotto: %.1f volte\n", (p > 0 ? l / p : 0) }'

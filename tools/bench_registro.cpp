@@ -5,12 +5,14 @@
 //                                Imposta.DAT, and account "2" with 50 places left
 //   bench_registro aggiungi DIR  opens account "2" and times 50 new movements, each with the
 //                                whole rewrite of .Ord; prints the mean in milliseconds
+//   bench_registro diario FILE   writes the movements of account "1" as a journal of `ledger`
 #include "ledger/Registro.h"
 #include "screen/PiattaformaSenzaSchermo.h"
 #include "shell/Applicazione.h"
 #include "store/Date.h"
 #include "store/FileRecord.h"
 #include "store/Stato.h"
+#include "store/Testo.h"
 #include "tools/Memoria.h"
 
 #include <chrono>
@@ -61,6 +63,21 @@ void ScriviConto(short numero, short movimenti) {
               [&] { ScriviRecord(conto, numero, 1); });
 }
 
+// The same movements, one transaction each, in the plain-text journal that `ledger` reads.
+bool ScriviDiario(const char* percorso) {
+    std::FILE* diario = std::fopen(percorso, "w");
+    if (!diario) return false;
+    for (int nr = 1; nr <= Pieno; ++nr) {
+        RecMovimento m = Movimento(nr);
+        PartiData d = DividiData(m.DataOper);
+        double importo = m.D_A == "U" ? -m.IMPORTO : m.IMPORTO;
+        std::fprintf(diario, "%04d/%02d/%02d %s\n    Attivo:Banca  %.2f EUR\n    Causali:%s\n\n",
+                     d.anno, d.mese, d.giorno, Trim(m.DescMovim).c_str(), importo,
+                     Trim(m.Causale).c_str());
+    }
+    return std::fclose(diario) == 0;
+}
+
 void Prepara() {
     Stato.PercorsoDati = Stato.PercorsoProgramma + "dati/";
     ScriviConto(1, Pieno);
@@ -101,8 +118,9 @@ void Aggiungi() {
 
 int main(int argc, char** argv) {
     std::string comando = argc == 3 ? argv[1] : "";
+    if (comando == "diario") return ScriviDiario(argv[2]) ? 0 : 1;
     if (comando != "prepara" && comando != "aggiungi") {
-        std::fprintf(stderr, "uso: bench_registro prepara|aggiungi CARTELLA\n");
+        std::fprintf(stderr, "uso: bench_registro prepara|aggiungi CARTELLA | diario FILE\n");
         return 2;
     }
     PiattaformaSenzaSchermo porta;
