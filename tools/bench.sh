@@ -63,7 +63,10 @@ cpu_ms() {
     awk '{ printf "%d\n", ($1 + $2) * 1000 + 0.5 }' <<< "$tempi"
 }
 
-mediana() { sort -n | awk '{ v[NR] = $1 } END { print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2 }'; }
+mediana() {
+    sort -n | awk '{ v[NR] = $1 }
+                   END { print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2 }'
+}
 
 "$bench" diario "$work/diario.ledger"
 giri=9
@@ -84,6 +87,6 @@ if [ -x "$elenco" ]; then
     export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$work/runtime"
     mkdir -m 700 "$XDG_RUNTIME_DIR"
     for ((i = 0; i < 5; i++)); do "$elenco" "$work/prog"; done > elenco.ms
-    printf '(d) Qt, apertura del conto fino alla maschera con le sue righe: %s ms (mediana di 5)\n' \
+    printf '(d) Qt, apertura del conto fino alla maschera con le righe: %s ms (mediana di 5)\n' \
         "$(mediana < elenco.ms)"
 fi

@@ -248,9 +248,9 @@ TEST_F(RegistroTest, RicaricaComeLeFunzioniGeneraliSuUnContoCasuale) {
         };
         double importo = tra(0, 2) == 0 ? importi[tra(0, 11)] : tra(-100000, 10000000) / 100.0;
         std::string documento = tra(0, 3) == 0 ? " è" + std::to_string(tra(0, 99)) + " " : "";
+        const char* causale = std::vector{"VS", "PR", "AS", "ZZ"}[tra(0, 3)];
         movimenti.push_back(Mov(nr, data(), data(), importo, tra(0, 1) ? "E" : "U",
-                                tra(0, 1) ? "S" : "N", std::vector{"VS", "PR", "AS", "ZZ"}[tra(0, 3)],
-                                documento, tra(0, 4) ? "N" : "S"));
+                                tra(0, 1) ? "S" : "N", causale, documento, tra(0, 4) ? "N" : "S"));
         const RecMovimento& m = movimenti.back();
         const double quota = m.D_A == "U" ? -importo : importo;
         if (Intero32(NumeroData(m.DataOper)) <= oggi) operazione += quota;
