@@ -239,7 +239,7 @@ TEST_F(RegistroTest, RicaricaComeLeFunzioniGeneraliSuUnContoCasuale) {
     std::vector<RecMovimento> movimenti;
     double operazione = 0, valuta = 0, allineato = 0;
     const int oggi = Intero32(NumeroData("05/07/2001"));
-    for (int nr = 1; nr <= 3000; ++nr) {
+    for (int nr = 1; nr <= 2000; ++nr) {
         auto data = [&] {
             char testo[11];
             std::snprintf(testo, sizeof testo, "%02d/%02d/%04d", tra(1, 28), tra(1, 12),
