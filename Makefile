@@ -36,7 +36,11 @@ test: build
 	cd $(ASAN) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
 
+# The yardstick, `ledger`, only for the bench.
 bench: build
+	@dpkg-query -W -f='$${Status}\n' ledger 2>/dev/null | grep -q 'install ok installed' || \
+	    { $(SUDO) apt-get update -qq && \
+	      DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq ledger; }
 	tools/bench.sh $(BUILD)
 
 # A look at what a person sees: the main window on a virtual display, saved as screenshot.png.

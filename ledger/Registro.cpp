@@ -9,6 +9,9 @@
 #include "store/Testo.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -36,28 +39,114 @@ struct DescrizioniInElenco {
     }
 };
 
+// The amounts of the lists as Format shows them with the pattern of the amounts. With the
+// program's own patterns, "#,###,###,##0" with 0 to 4 decimals, an amount below 10^9 within a
+// millionth of a whole number of its smallest units is written straight from that number: the
+// product's rounding (below 10^-3 of a unit) and Format's own rounding to 15 digits (half of
+// 10^-6 of the amount, 5 * 10^-3 of a unit) together stay far from the half that would round
+// it to another. Anything else goes through Format.
+struct ImportiInElenco {
+    int decimali = -1;    // -1: a pattern of another kind
+
+    ImportiInElenco() {
+        for (int d = 0; d <= 4; ++d)
+            if (Stato.FormatoImporti == FormatoImportiPerDecimali(d)) decimali = d;
+    }
+
+    std::string_view Testo(double importo, char (&testo)[40], std::string& generale) const {
+        constexpr double Scala[] = {1, 10, 100, 1000, 10000};
+        const double assoluto = std::fabs(importo);
+        const double unita = decimali < 0 ? 0 : assoluto * Scala[decimali];
+        const double intero = std::nearbyint(unita);
+        if (decimali < 0 || !(assoluto < 1e9) || std::fabs(unita - intero) >= 1e-6) {
+            generale = Format(importo, Stato.FormatoImporti);
+            return generale;
+        }
+        char cifre[24];
+        char* fine = std::to_chars(cifre, cifre + sizeof cifre,
+                                   static_cast<std::uint64_t>(intero)).ptr;
+        // At least one integer digit: "0" is the last integer place of the pattern.
+        const int n = static_cast<int>(fine - cifre);
+        const int zeri = std::max(0, decimali + 1 - n);
+        char* uscita = testo;
+        if (importo < 0) *uscita++ = '-';
+        const int interi = n + zeri - decimali;
+        for (int r = interi - 1, i = -zeri; r >= 0; --r, ++i) {
+            *uscita++ = i < 0 ? '0' : cifre[i];
+            if (r > 0 && r % 3 == 0) *uscita++ = '.';
+        }
+        if (decimali > 0) {
+            *uscita++ = ',';
+            for (int i = interi - zeri; i < n; ++i) *uscita++ = i < 0 ? '0' : cifre[i];
+        }
+        return {testo, static_cast<std::size_t>(uscita - testo)};
+    }
+};
+
+// Text right-aligned in `n` characters, as AllineaDestra gives it; plain ASCII has a
+// character a byte.
+char* ADestra(char* uscita, std::string_view testo, int n) {
+    unsigned char bitAlti = 0;
+    for (char c : testo) bitAlti |= static_cast<unsigned char>(c);
+    const int caratteri = bitAlti < 0x80 ? static_cast<int>(testo.size())
+                                          : Len(std::string(testo));
+    if (caratteri < n) uscita = std::fill_n(uscita, n - caratteri, ' ');
+    return std::copy(testo.begin(), testo.end(), uscita);
+}
+
+// Riga's text, written into one string sized once. Each number takes the shortcut its general
+// form would give for it: the date number is a whole number, which Str writes as its digits
+// behind a blank or "-"; a movement's number from 0 up is "0000"'s four digits or more.
 std::string Riga(const RecMovimento& m, const std::string& dataChiave, bool marcaAnnullato,
-                 DescrizioniInElenco& descrizioni) {
-    std::string riga = Str(NumeroIntero(dataChiave));
-    riga.reserve(120);
-    riga += "  ";
-    riga += m.DataOper.Vista();
-    riga += ' ';
-    riga += m.DataValuta.Vista();
-    riga += ' ';
-    riga += Format(m.NrOper, "0000");
-    riga += ' ';
-    riga += descrizioni.Di(m.Causale);
-    riga += "  ";
-    riga += m.Sospeso.Vista();
-    riga += "   ";
-    riga += m.D_A.Vista();
-    riga += "  ";
-    riga += AllineaDestra(Trim(m.NrDoc), 8);
-    riga += ' ';
-    riga += AllineaDestra(Format(m.IMPORTO * Stato.Cambio, Stato.FormatoImporti), 15);
-    if (marcaAnnullato) riga += " *";
-    if (m.Sospeso == "N") riga += " *";
+                 DescrizioniInElenco& descrizioni, const ImportiInElenco& importi) {
+    char testoImporto[40];
+    std::string importoGenerale;
+    const std::string_view importo =
+        importi.Testo(m.IMPORTO * Stato.Cambio, testoImporto, importoGenerale);
+    std::string_view documento = m.NrDoc.Vista();
+    documento.remove_prefix(std::min(documento.find_first_not_of(' '), documento.size()));
+    documento.remove_suffix(documento.size() - (documento.find_last_not_of(' ') + 1));
+    const std::string_view causale = descrizioni.Di(m.Causale);
+    const std::string_view campi[] = {m.DataOper.Vista(), m.DataValuta.Vista(), causale,
+                                      m.Sospeso.Vista(), m.D_A.Vista(), documento, importo};
+    // The numbers, the blanks between the fields, the padding and the marks: below 80.
+    std::size_t limite = 80;
+    for (std::string_view campo : campi) limite += campo.size();
+    std::string riga(limite, ' ');
+    char* uscita = riga.data();
+    auto copia = [&uscita](std::string_view testo) {
+        uscita = std::copy(testo.begin(), testo.end(), uscita);
+    };
+
+    const long long chiave = NumeroIntero(dataChiave);
+    *uscita++ = chiave < 0 ? '-' : ' ';
+    uscita = std::to_chars(uscita, uscita + 12, chiave < 0 ? -chiave : chiave).ptr;
+    uscita += 2;
+    copia(m.DataOper.Vista());
+    ++uscita;
+    copia(m.DataValuta.Vista());
+    ++uscita;
+    if (m.NrOper < 0) {
+        copia(Format(m.NrOper, "0000"));
+    } else {
+        char cifre[8];
+        char* fine = std::to_chars(cifre, cifre + sizeof cifre, m.NrOper).ptr;
+        if (fine - cifre < 4) uscita = std::fill_n(uscita, 4 - (fine - cifre), '0');
+        uscita = std::copy(cifre, fine, uscita);
+    }
+    ++uscita;
+    copia(causale);
+    uscita += 2;
+    copia(m.Sospeso.Vista());
+    uscita += 3;
+    copia(m.D_A.Vista());
+    uscita += 2;
+    uscita = ADestra(uscita, documento, 8);
+    ++uscita;
+    uscita = ADestra(uscita, importo, 15);
+    if (marcaAnnullato) copia(" *");
+    if (m.Sospeso == "N") copia(" *");
+    riga.resize(static_cast<std::size_t>(uscita - riga.data()));
     return riga;
 }
 
@@ -130,6 +219,7 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
     };
     try {
         DescrizioniInElenco descrizioni;
+        const ImportiInElenco importi;
         long da = 0, a = 0;
         for (long i = 1; i <= Stato.NumMovimenti; ++i) {
             const RecMovimento& m = Stato.Movimenti[i];
@@ -140,7 +230,7 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
             }
             if (giorno >= da && giorno <= a)
                 righe.push_back(Riga(m, m.*data, marcaAnnullato && m.Annullato == "S",
-                                     descrizioni));
+                                     descrizioni, importi));
         }
     } catch (...) {
         consegna();
@@ -154,7 +244,7 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
 std::string RigaElenco(const RecMovimento& m, const std::string& dataChiave,
                        bool marcaAnnullato) {
     DescrizioniInElenco descrizioni;
-    return Riga(m, dataChiave, marcaAnnullato, descrizioni);
+    return Riga(m, dataChiave, marcaAnnullato, descrizioni, ImportiInElenco());
 }
 
 int NumeroDaRiga(const std::string& riga) {

@@ -8,12 +8,18 @@
 #       50 (below 5 ms);
 #   (d) `Interessi` on the same year, to the last row of the competences; mean of 50 (below
 #       10 ms).
+#   (e) the CPU time (user + sys) of (a) against `ledger -f J bal` on the same movements written
+#       as a journal: runs of the two in turn, medians, and their ratio. CPU time rather than
+#       the clock, and the ratio rather than the times alone: the machines are shared;
+#   (f) with Qt: from the start of the opening of that account in the program to its entry
+#       screen shown with the 32767 lines, on the offscreen platform; median of 5 (below 100 ms).
 # Usage: tools/bench.sh BUILD_DIR
 set -euo pipefail
 
 build=$(cd "${1:?usage: tools/bench.sh BUILD_DIR}" && pwd)
 driver=$build/tools/marendola-script
 bench=$build/tools/bench_registro
+elenco=$build/ui/bench_elenco
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
@@ -59,3 +65,38 @@ printf '(c) staffa di un anno di 1000 movimenti: %s ms (media di 50)\n' \
 
 printf '(d) interessi di un anno di 1000 movimenti: %s ms (media di 50)\n' \
     "$("$bench" interessi "$work/prog")"
+
+# CPU milliseconds (user + sys) of one run of a command, its output dropped.
+cpu_ms() {
+    local TIMEFORMAT='%3U %3S' tempi
+    tempi=$({ time "$@" > /dev/null; } 2>&1)
+    awk '{ printf "%d\n", ($1 + $2) * 1000 + 0.5 }' <<< "$tempi"
+}
+
+mediana() {
+    sort -n | awk '{ v[NR] = $1 }
+                   END { print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2 }'
+}
+
+"$bench" diario "$work/diario.ledger"
+giri=9
+: > prodotto.ms
+: > ledger.ms
+for ((i = 0; i < giri; i++)); do
+    cpu_ms "$driver" apri.script >> prodotto.ms
+    cpu_ms ledger -f "$work/diario.ledger" bal >> ledger.ms
+done
+prodotto=$(mediana < prodotto.ms)
+riferimento=$(mediana < ledger.ms)
+printf '(e) tempo di CPU, mediane di %d giri alterni: prodotto %s ms, ledger bal %s ms\n' \
+    "$giri" "$prodotto" "$riferimento"
+awk -v p="$prodotto" -v l="$riferimento" \
+    'BEGIN { printf "    ledger bal / prodotto: %.1f volte\n", (p > 0 ? l / p : 0) }'
+
+if [ -x "$elenco" ]; then
+    export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$work/runtime"
+    mkdir -m 700 "$XDG_RUNTIME_DIR"
+    for ((i = 0; i < 5; i++)); do "$elenco" "$work/prog"; done > elenco.ms
+    printf '(f) Qt, apertura del conto fino alla maschera con le righe: %s ms (mediana di 5)\n' \
+        "$(mediana < elenco.ms)"
+fi

@@ -8,6 +8,7 @@
 //   bench_registro staffa DIR    opens account "1" and times 50 presses of `via` on the year
 //                                2000, which holds more than the 1000 movements a ladder takes
 //   bench_registro interessi DIR the same with `Interessi`
+//   bench_registro diario FILE   writes the movements of account "1" as a journal of `ledger`
 #include "interest/Staffa.h"
 #include "ledger/Registro.h"
 #include "screen/PiattaformaSenzaSchermo.h"
@@ -15,6 +16,7 @@
 #include "store/Date.h"
 #include "store/FileRecord.h"
 #include "store/Stato.h"
+#include "store/Testo.h"
 #include "tools/Memoria.h"
 
 #include <chrono>
@@ -65,6 +67,21 @@ void ScriviConto(short numero, short movimenti) {
     conto.Fido = 5000;
     ConRecord(NomeFileDati("Conti.dat"), RecConto::Lunghezza, 1,
               [&] { ScriviRecord(conto, numero, 1); });
+}
+
+// The same movements, one transaction each, in the plain-text journal that `ledger` reads.
+bool ScriviDiario(const char* percorso) {
+    std::FILE* diario = std::fopen(percorso, "w");
+    if (!diario) return false;
+    for (int nr = 1; nr <= Pieno; ++nr) {
+        RecMovimento m = Movimento(nr);
+        PartiData d = DividiData(m.DataOper);
+        double importo = m.D_A == "U" ? -m.IMPORTO : m.IMPORTO;
+        std::fprintf(diario, "%04d/%02d/%02d %s\n    Attivo:Banca  %.2f EUR\n    Causali:%s\n\n",
+                     d.anno, d.mese, d.giorno, Trim(m.DescMovim).c_str(), importo,
+                     Trim(m.Causale).c_str());
+    }
+    return std::fclose(diario) == 0;
 }
 
 void Prepara() {
@@ -133,9 +150,11 @@ template <class F> void StaffaAnno(F&& premi) {
 
 int main(int argc, char** argv) {
     std::string comando = argc == 3 ? argv[1] : "";
+    if (comando == "diario") return ScriviDiario(argv[2]) ? 0 : 1;
     if (comando != "prepara" && comando != "aggiungi" && comando != "staffa" &&
         comando != "interessi") {
-        std::fprintf(stderr, "uso: bench_registro prepara|aggiungi|staffa|interessi CARTELLA\n");
+        std::fprintf(stderr,
+                     "uso: bench_registro prepara|aggiungi|staffa|interessi CARTELLA | diario FILE\n");
         return 2;
     }
     PiattaformaSenzaSchermo porta;

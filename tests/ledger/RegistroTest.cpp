@@ -2,6 +2,11 @@
 
 #include "ledger/CaricaConto.h"
 #include "ledger/Registro.h"
+#include "store/Date.h"
+#include "store/Formato.h"
+
+#include <cstdio>
+#include <random>
 
 // Today is 05/07/2001 throughout: date number 732366 + 181 + 5 = 732552.
 
@@ -204,4 +209,84 @@ TEST_F(RegistroTest, ContatoreCortoIgnoraIlSurplusCheVieneSovrascritto) {
     EXPECT_EQ(mov[2].DataOper, "04/07/2001");
     EXPECT_EQ(mov[2].IMPORTO, 1);
     EXPECT_EQ(Stato.SaldoUltimaData, 29);
+}
+
+// The list line as the general functions give it, one by one.
+std::string RigaGenerale(const RecMovimento& m, const std::string& chiave, bool marca) {
+    std::string causale;
+    for (long j = Stato.NumCausali; j >= 1; --j)
+        if (Stato.Causali[j].CodCausale == m.Causale)
+            causale = Left(Stato.Causali[j].DescCausale, 20);
+    return Str(Intero32(NumeroData(chiave))) + "  " + m.DataOper.Testo() + " " +
+           m.DataValuta.Testo() + " " + Format(m.NrOper, "0000") + " " + causale + "  " +
+           m.Sospeso.Testo() + "   " + m.D_A.Testo() + "  " +
+           AllineaDestra(Trim(m.NrDoc), 8) + " " +
+           AllineaDestra(Format(m.IMPORTO * Stato.Cambio, Stato.FormatoImporti), 15) +
+           (marca ? " *" : "") + (m.Sospeso == "N" ? " *" : "");
+}
+
+// A large account of odd amounts (thirds, half cents, tiny, huge, negative, whole), dates from
+// before 1927 (shorter keys) to 2099, documents with blanks and accents: both refills give the
+// lines of the general functions, in the order of one insertion at a time; .Ord follows the
+// list; .TOT has the sums.
+TEST_F(RegistroTest, RicaricaComeLeFunzioniGeneraliSuUnContoCasuale) {
+    Causale(3, "AS", "Assegno");
+    Stato.NumCausali = 3;
+    std::mt19937 caso(18);
+    auto tra = [&](int da, int a) { return std::uniform_int_distribution<int>(da, a)(caso); };
+    const double importi[] = {0.005, 0.015, 1.0 / 3, 2.675, 1e-7, 123456789.995, 1e9 + 0.01,
+                              5e11, -0.004, 0, 1.005, 999999.999};
+    std::vector<RecMovimento> movimenti;
+    double operazione = 0, valuta = 0, allineato = 0;
+    const int oggi = Intero32(NumeroData("05/07/2001"));
+    for (int nr = 1; nr <= 2000; ++nr) {
+        auto data = [&] {
+            char testo[11];
+            std::snprintf(testo, sizeof testo, "%02d/%02d/%04d", tra(1, 28), tra(1, 12),
+                          tra(0, 5) == 0 ? tra(1900, 1926) : tra(1990, 2099));
+            return std::string(testo);
+        };
+        double importo = tra(0, 2) == 0 ? importi[tra(0, 11)] : tra(-100000, 10000000) / 100.0;
+        std::string documento = tra(0, 3) == 0 ? " è" + std::to_string(tra(0, 99)) + " " : "";
+        const char* causale = std::vector{"VS", "PR", "AS", "ZZ"}[tra(0, 3)];
+        movimenti.push_back(Mov(nr, data(), data(), importo, tra(0, 1) ? "E" : "U",
+                                tra(0, 1) ? "S" : "N", causale, documento, tra(0, 4) ? "N" : "S"));
+        const RecMovimento& m = movimenti.back();
+        const double quota = m.D_A == "U" ? -importo : importo;
+        if (Intero32(NumeroData(m.DataOper)) <= oggi) operazione += quota;
+        if (Intero32(NumeroData(m.DataValuta)) <= oggi) valuta += quota;
+        if (m.Sospeso == "N") allineato += quota;
+    }
+    ScriviMovimenti(movimenti);
+    auto& f = app->Form9;
+    for (const auto& [cambio, formato] :
+         {std::pair{1.0, "#,###,###,##0.00"}, {1936.27, "#,###,###,##0"},
+          {1.0, "#,###,###,##0.0000"}, {1.0, "#,##0.00;(#,##0.00)"}}) {
+        SCOPED_TRACE(formato);
+        Stato.Cambio = cambio;
+        Stato.FormatoImporti = formato;
+        CaricaConto();
+        // The general lines go one at a time into the list that the refill leaves alone.
+        auto generale = [&](Controllo& lista, bool perValuta) {
+            lista.Clear();
+            for (const RecMovimento& m : movimenti)
+                lista.AddItem(RigaGenerale(m, perValuta ? m.DataValuta : m.DataOper,
+                                           perValuta && m.Annullato == "S"));
+            return lista.Righe();
+        };
+        ElencaPerValuta();
+        EXPECT_EQ(f.elencoValuta.Righe(), generale(f.ElencoMovim, true));
+        ElencaPerOperazione();
+        std::vector<std::string> attese = generale(f.elencoValuta, false);
+        EXPECT_EQ(f.ElencoMovim.Righe(), attese);
+        ScriviOrd();
+        std::vector<int> ordine;
+        for (const std::string& riga : attese) ordine.push_back(std::stoi(riga.substr(31, 4)));
+        ordine.push_back(0);
+        EXPECT_EQ(Numeri(Leggi(".Ord")), ordine);
+    }
+    RecTotali t = LeggiTotali();
+    EXPECT_EQ(t.SaldoOperazione, operazione);
+    EXPECT_EQ(t.SaldoValuta, valuta);
+    EXPECT_EQ(t.SaldoAllineamento, allineato);
 }
