@@ -7,6 +7,8 @@
 #include <array>
 #include <cerrno>
 #include <dirent.h>
+#include <fstream>
+#include <iterator>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -86,6 +88,19 @@ std::vector<std::string> NomiIn(const std::string& directory) {
     return nomi;
 }
 
+// A new file of mode 0600 whatever the umask; a missing name can only be a missing directory.
+int FilePrivato(const std::string& percorso, int accesso) {
+    int fd = open(percorso.c_str(), accesso | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+    if (fd < 0 && errno == ENOENT) Errore(76);
+    if (fd < 0) ErroreDiSistema();
+    if (fchmod(fd, 0600) != 0) {
+        int errore = errno;
+        close(fd);
+        Errore(NumeroDaErrno(errore));
+    }
+    return fd;
+}
+
 int CanaleLibero() {
     for (int canale = PrimoCanale; canale <= UltimoCanale; ++canale) {
         if (canali[static_cast<std::size_t>(canale)].fd < 0) return canale;
@@ -105,9 +120,19 @@ std::string RisolviNome(const std::string& percorso) {
     return directory + nome;
 }
 
+void ControllaStelo(const std::string& stelo) {
+    bool controllo = std::any_of(stelo.begin(), stelo.end(), [](char c) {
+        auto u = static_cast<unsigned char>(c);
+        return u < 32 || u == 127 || c == '/';
+    });
+    if (stelo.empty() || controllo || stelo.find("..") != std::string::npos) Errore(52);
+}
+
 std::string NomeFileConto(const std::string& estensione) {
     Stato.CodContoAperto = Trim(Stato.CodContoAperto);
-    return RisolviNome(Stato.PercorsoDati + Trim(Stato.CodContoAperto) + estensione);
+    std::string stelo = Trim(Stato.CodContoAperto);
+    ControllaStelo(stelo);
+    return RisolviNome(Stato.PercorsoDati + stelo + estensione);
 }
 
 std::string NomeFileDati(const std::string& nome) {
@@ -129,16 +154,37 @@ std::vector<std::string> FileCheIniziano(const std::string& directory,
     return trovati;
 }
 
+void CreaCartelle(const std::string& percorso) {
+    std::size_t fine = 0;
+    while (fine != std::string::npos) {
+        fine = percorso.find('/', fine + 1);
+        std::string cartella = percorso.substr(0, fine);
+        struct stat info;
+        if (cartella.empty() || stat(cartella.c_str(), &info) == 0) continue;
+        if (mkdir(cartella.c_str(), 0700) != 0 || chmod(cartella.c_str(), 0700) != 0)
+            ErroreDiSistema();
+    }
+}
+
+void CopiaFile(const std::string& da, const std::string& a) {
+    std::ifstream origine(da, std::ios::binary);
+    if (!origine) Errore(53);
+    std::vector<unsigned char> byte{std::istreambuf_iterator<char>(origine),
+                                    std::istreambuf_iterator<char>()};
+    int canale = CanaleLibero();
+    ConRecord(a, 1, canale, [&] {
+        if (!byte.empty()) ScriviByte(byte.data(), byte.size(), 1, canale);
+    });
+}
+
 void ApriRecord(const std::string& nome, int lunghezza, int canale) {
     Canale& c = CanaleValido(canale);
     if (c.fd >= 0) Errore(55);
     if (lunghezza < 1) Errore(59);
-    int fd = open(RisolviNome(nome).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-    if (fd < 0) {
-        // With O_CREAT a missing name can only be a missing directory.
-        if (errno == ENOENT) Errore(76);
-        ErroreDiSistema();
-    }
+    std::string percorso = RisolviNome(nome);
+    int fd = open(percorso.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+    if (fd < 0 && errno == ENOENT) fd = FilePrivato(percorso, O_RDWR);
+    if (fd < 0) ErroreDiSistema();
     c.fd = fd;
     c.lunghezza = static_cast<std::size_t>(lunghezza);
 }
