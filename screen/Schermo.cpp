@@ -303,9 +303,13 @@ void Controllo::Incolla(const std::string& testo, std::size_t dove) {
         if (KeyPress) KeyPress(k);
         if (k >= 32) AccodaCarattere(tenuti, k);
     }
+    // The byte where character `dove` begins, or the end.
     std::size_t posto = 0;
-    for (std::size_t n = 0; posto < testo_.size() && n < dove; ++n)
-        do ++posto; while (posto < testo_.size() && (testo_[posto] & 0xC0) == 0x80);
+    for (std::size_t n = 0; n < dove && posto < testo_.size(); ++n) {
+        ++posto;
+        while (posto < testo_.size() && (testo_[posto] & 0xC0) == 0x80)
+            ++posto;
+    }
     while (MaxLength > 0 && !tenuti.empty() &&
            Caratteri(testo_) + Caratteri(tenuti) > static_cast<std::size_t>(MaxLength))
         TogliUltimoCarattere(tenuti);

@@ -13,7 +13,6 @@
 #include "store/Stato.h"
 #include "store/Testo.h"
 
-
 namespace {
 template <class R> void LeggiPrimoRecord(const std::string& nome, R& record) {
     ApriRecord(nome, R::Lunghezza, 1);

@@ -29,8 +29,8 @@ void InstallaForniti() {
 } // namespace
 
 bool PrimoAvvio() {
-    for (const char* nome : {"Causali.DAT", "RecCausa.dat", "Valute.DAT", "Imposta.DAT",
-                             "colori.col"})
+    for (const char* nome :
+         {"Causali.DAT", "RecCausa.dat", "Valute.DAT", "Imposta.DAT", "colori.col"})
         if (fs::exists(fs::symlink_status(NomeFileProgramma(nome)))) return false;
     return true;
 }

@@ -7,9 +7,9 @@
 #include <array>
 #include <cerrno>
 #include <dirent.h>
+#include <fcntl.h>
 #include <fstream>
 #include <iterator>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 

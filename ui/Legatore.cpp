@@ -184,7 +184,8 @@ void Modificato(Controllo& c, QLineEdit& campo, bool tasto) {
     QString resto = prima.left(inizio) + prima.right(fine);
     if (resto != prima) c.SetText(resto.toStdString());
     QString incollato = dopo.mid(inizio, dopo.size() - inizio - fine);
-    c.Incolla(incollato.toStdString(), static_cast<std::size_t>(prima.left(inizio).toUcs4().size()));
+    c.Incolla(incollato.toStdString(),
+              static_cast<std::size_t>(prima.left(inizio).toUcs4().size()));
 }
 
 bool Filtro::eventFilter(QObject* o, QEvent* e) {

@@ -34,7 +34,8 @@ inline void ScriviFile(const std::uint8_t* byte, std::size_t quanti,
         if (lunghezza == 0xFFFF) continue;
         lunghezza = std::min(lunghezza, quanti - i);
         std::ofstream(nome, std::ios::binary)
-            .write(reinterpret_cast<const char*>(byte + i), static_cast<std::streamsize>(lunghezza));
+            .write(reinterpret_cast<const char*>(byte + i),
+                   static_cast<std::streamsize>(lunghezza));
         i += lunghezza;
     }
 }
@@ -53,7 +54,8 @@ inline const fs::path& CartellaFuzz() {
 
 // The flags that the currency combo shows, so that the start reaches its later steps.
 inline void ScriviBandiere(const fs::path& programma) {
-    for (int n = 1; n <= 15; ++n) std::ofstream(programma / (std::to_string(n) + ".ICO"));
+    for (int n = 1; n <= 15; ++n)
+        std::ofstream(programma / (std::to_string(n) + ".ICO"));
 }
 
 inline void AvviaEControlla(const fs::path& programma) {

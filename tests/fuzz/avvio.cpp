@@ -14,7 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* byte, std::size_t quan
                 dati / "Conti.dat", programma / "RecCausa.dat", programma / "Causali.DAT",
                 programma / "Valute.DAT"});
     if (fs::exists(programma / "Imposta.DAT")) {
-        std::fstream imposta(programma / "Imposta.DAT", std::ios::binary | std::ios::in | std::ios::out);
+        std::fstream imposta(programma / "Imposta.DAT",
+                             std::ios::binary | std::ios::in | std::ios::out);
         auto lunghezza = static_cast<std::streamsize>(
             std::min<std::uintmax_t>(35, fs::file_size(programma / "Imposta.DAT")));
         imposta.write(std::string(35, ' ').data(), lunghezza);

@@ -31,7 +31,8 @@ fs::path Installa() {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* byte, std::size_t quanti) {
     static const fs::path programma = Installa();
     const fs::path dati = programma / "dati";
-    for (const std::string& file : FileCheIniziano(dati.string(), "12.")) fs::remove(file);
+    for (const std::string& file : FileCheIniziano(dati.string(), "12."))
+        fs::remove(file);
     std::vector<fs::path> file;
     for (const char* estensione : {".MOV", ".MOR", ".TOT", ".RIP", ".CAR", ".NRC", ".FOG", ".NRF"})
         file.push_back(dati / (std::string("12") + estensione));

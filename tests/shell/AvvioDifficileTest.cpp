@@ -24,7 +24,11 @@ TEST_F(AvvioDifficileTest, UnGuastoAllAvvioLasciaLaFinestraEIlSceltaConti) {
     senzaTrattino.Combo1 = "Euro";
     const Caso casi[] = {
         {"data directory missing", [&] { ScriviImposta(altrove); }, 76},
-        {"101 accounts", [&] { ScriviFile(dati / "RecConti.dat", {101, 0}); }, 9},
+        {"101 accounts",
+         [&] {
+             ScriviFile(dati / "RecConti.dat", {101, 0});
+         },
+         9},
         {"1-byte RecCausa.dat", [&] { ScriviFile(programma / "RecCausa.dat", {0xFF}); }, 9},
         {"a folder for Valute.DAT",
          [&] {

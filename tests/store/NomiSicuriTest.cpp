@@ -18,7 +18,8 @@ struct NomiSicuriTest : Ambiente {
     }
     std::set<fs::path> Tutto() {
         std::set<fs::path> visti;
-        for (const auto& voce : fs::recursive_directory_iterator(radice)) visti.insert(voce.path());
+        for (const auto& voce : fs::recursive_directory_iterator(radice))
+            visti.insert(voce.path());
         return visti;
     }
     mode_t Modo(const fs::path& p) {
@@ -29,8 +30,9 @@ struct NomiSicuriTest : Ambiente {
 };
 
 TEST_F(NomiSicuriTest, UnoSteloCheEsceONonENomeNonCreaNulla) {
-    const std::string rifiutati[] = {"../x", "..", "a/b", "/etc/x", "x..y", "   ", "",
-                                     std::string("a\0b", 3), "a\tb", "a\x1f", "a\x7f"};
+    const std::string rifiutati[] = {"../x", "..",    "a/b",  "/etc/x",
+                                     "x..y", "   ",   "",     std::string("a\0b", 3),
+                                     "a\tb", "a\x1f", "a\x7f"};
     const std::set<fs::path> prima = Tutto();
     for (const std::string& codice : rifiutati) {
         Stato.CodContoAperto = codice;
