@@ -159,6 +159,7 @@ bool Tasto(Filtro& f, Controllo* c, QObject* o, const QKeyEvent& e) {
     if (dato != 0)
         if (auto* campo = qobject_cast<QLineEdit*>(o)) {
             auto u = static_cast<char32_t>(dato);
+            f.tastoAmmesso = o;
             campo->insert(QString::fromUcs4(&u, 1));
         }
     return true;
