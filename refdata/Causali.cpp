@@ -18,11 +18,13 @@ short CercaCausale(const std::string& codice) {
     return Stato.IndiceCausale;
 }
 
+// The count is taken once its records are in: a spoiled counter leaves none counted unloaded.
 void LeggiCausali() {
-    Stato.NumCausali = LeggiContatore(NomeFileProgramma("RecCausa.dat"));
+    short causali = LeggiContatore(NomeFileProgramma("RecCausa.dat"));
     ApriRecord(NomeFileProgramma("Causali.DAT"), RecCausale::Lunghezza, 1);
-    LeggiRecords(Stato.Causali.righe, 1, Stato.NumCausali, 1);
+    LeggiRecords(Stato.Causali.righe, 1, causali, 1);
     ChiudiRecord(1);
+    Stato.NumCausali = causali;
 }
 
 void ScriviCausale(short n, long record) {

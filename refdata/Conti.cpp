@@ -131,7 +131,9 @@ void CancellaConto() {
                              "attenzione", Icona::Nessuna, Pulsanti::OK, 0);
         return;
     }
+    // A number that names no plain file, as one found in Conti.dat may be, deletes nothing.
     const std::string stelo = Trim(Stato.Conti[scelto].CodConto);
+    ControllaStelo(stelo);
 
     // The last old record stays behind the new end of the file, no longer counted.
     ApriRecord(NomeFileDati("Conti.dat"), RecConto::Lunghezza, 1);

@@ -138,7 +138,8 @@ void SvuotaCampiConto(Form2& f, bool ancheCabId) {
 
 void ConfermaConto() {
     Form2& f = App().Form2;
-    if (f.CodConto.Text().empty()) {
+    // Blanks alone are no number: trimmed, they would name every file of the directory.
+    if (Trim(f.CodConto.Text()).empty()) {
         Piattaforma().Beep();
         Piattaforma().MsgBox("Nr. di conto obbligatorio", "ERRORE", Icona::Nessuna, Pulsanti::OK,
                              0);

@@ -297,6 +297,32 @@ void Controllo::ModificaTesto(int k) {
     SetText(nuovo);
 }
 
+void Controllo::Incolla(const std::string& testo, std::size_t dove) {
+    if (!Modificabile(tipo) || !Enabled) return;
+    std::string tenuti;
+    for (std::size_t i = 0; i < testo.size();) {
+        auto byte = static_cast<unsigned char>(testo[i]);
+        std::size_t lunghezza = byte < 0xC0 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
+        int k = byte < 0x80 ? byte : byte < 0xE0 ? byte & 0x1F : byte & 0x0F;
+        for (std::size_t j = 1; j < lunghezza && i + j < testo.size(); ++j)
+            k = k << 6 | (static_cast<unsigned char>(testo[i + j]) & 0x3F);
+        i += lunghezza;
+        if (KeyPress) KeyPress(k);
+        if (k >= 32) AccodaCarattere(tenuti, k);
+    }
+    // The byte where character `dove` begins, or the end.
+    std::size_t posto = 0;
+    for (std::size_t n = 0; n < dove && posto < testo_.size(); ++n) {
+        ++posto;
+        while (posto < testo_.size() && (testo_[posto] & 0xC0) == 0x80)
+            ++posto;
+    }
+    while (MaxLength > 0 && !tenuti.empty() &&
+           Caratteri(testo_) + Caratteri(tenuti) > static_cast<std::size_t>(MaxLength))
+        TogliUltimoCarattere(tenuti);
+    SetText(testo_.substr(0, posto) + tenuti + testo_.substr(posto));
+}
+
 Controllo::Istantanea Controllo::Fotografa() const {
     return {testo_, Enabled, Visible, valore_, righe_, listIndex_};
 }

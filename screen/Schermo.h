@@ -108,6 +108,10 @@ struct Controllo {
     void DoppioClic();
     // One key typed while this control has the focus: key filter, edit, Change, key release.
     void Digita(int carattere);
+    // A paste (or a drop) of `testo` at character `dove` of the text: each character goes
+    // through the key filter as a typed one does, and what it keeps goes in, as far as
+    // MaxLength allows, with one Change.
+    void Incolla(const std::string& testo, std::size_t dove);
 
     // The screen's design values, kept at the first load and given back at each unload.
     struct Istantanea {

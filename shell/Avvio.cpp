@@ -9,12 +9,10 @@
 #include "shell/Valuta.h"
 #include "store/FileRecord.h"
 #include "store/Formato.h"
+#include "store/Guasto.h"
 #include "store/Piattaforma.h"
 #include "store/Stato.h"
 #include "store/Testo.h"
-
-#include <filesystem>
-#include <system_error>
 
 namespace {
 template <class R> void LeggiPrimoRecord(const std::string& nome, R& record) {
@@ -33,12 +31,14 @@ std::string PercorsoDatiAvvio() {
 }
 
 // The accounts are read here without the disk failure path of the account screens: at the
-// start a data directory that points nowhere is a plain failure.
+// start a data directory that points nowhere is a plain failure. The count is taken once its
+// records are in, so that a spoiled counter leaves no account counted that isn't loaded.
 void LeggiArchivi() {
-    Stato.NumConti = LeggiContatore(NomeFileDati("RecConti.dat"));
+    short conti = LeggiContatore(NomeFileDati("RecConti.dat"));
     ApriRecord(NomeFileDati("Conti.dat"), RecConto::Lunghezza, 1);
-    LeggiRecords(Stato.Conti.righe, 1, Stato.NumConti, 1);
+    LeggiRecords(Stato.Conti.righe, 1, conti, 1);
     ChiudiRecord(1);
+    Stato.NumConti = conti;
     ElencaConti();
     LeggiCausali();
     ElencaCausali();
@@ -51,9 +51,8 @@ void CaricaFinestraPrincipale(const std::string& cartellaProgramma) {
     Stato.PercorsoProgramma = cartellaProgramma;
     if (Stato.PercorsoProgramma.empty() || Stato.PercorsoProgramma.back() != '/')
         Stato.PercorsoProgramma += '/';
-    std::error_code e;
-    std::filesystem::create_directories(Stato.PercorsoProgramma, e);
-    if (e) Errore(NumeroDaErrno(e.value()));
+    CreaCartelle(Stato.PercorsoProgramma);
+    const bool primo = PrimoAvvio();
 
     LeggiPrimoRecord(NomeFileProgramma("colori.col"), Stato.Colori);
     LeggiPrimoRecord(NomeFileProgramma("Imposta.DAT"), Stato.Imposta);
@@ -61,7 +60,7 @@ void CaricaFinestraPrincipale(const std::string& cartellaProgramma) {
     Stato.PercorsoDati = PercorsoDatiAvvio();
     f.Codice.SetText(Stato.PercorsoDati);
 
-    if (PrimoAvvio()) EseguiPrimoAvvio();
+    if (primo) EseguiPrimoAvvio();
 
     LeggiArchivi();
     LeggiValute();
@@ -76,7 +75,12 @@ void CaricaFinestraPrincipale(const std::string& cartellaProgramma) {
 
 void AvviaProgramma(const std::string& cartellaProgramma) {
     MDIForm1& f = App().MDIForm1;
-    f.S.Load = [cartellaProgramma] { CaricaFinestraPrincipale(cartellaProgramma); };
+    // A failure of the load is reported, and the window comes up all the same with what was
+    // loaded, so that the user can reach the account chooser and another data directory, or
+    // leave.
+    f.S.Load = [cartellaProgramma] {
+        EseguiEvento([&] { CaricaFinestraPrincipale(cartellaProgramma); });
+    };
     f.S.Show();
 }
 

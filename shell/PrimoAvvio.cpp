@@ -8,15 +8,10 @@
 #include "store/Stato.h"
 
 #include <filesystem>
-#include <system_error>
 
 namespace fs = std::filesystem;
 
 namespace {
-void FallisceSe(const std::error_code& e) {
-    if (e) Errore(NumeroDaErrno(e.value()));
-}
-
 // The flags 1.ICO to 15.ICO and the help text, copied only where the program directory lacks
 // them, so that a picture of the user's own stays.
 void InstallaForniti() {
@@ -27,17 +22,17 @@ void InstallaForniti() {
         nomi.push_back(std::to_string(n) + ".ICO");
     for (const std::string& nome : nomi) {
         fs::path da = fs::path(origine) / nome;
-        fs::path a = NomeFileProgramma(nome);
-        if (!fs::exists(da) || fs::exists(a)) continue;
-        std::error_code e;
-        fs::copy_file(da, a, e);
-        FallisceSe(e);
+        std::string a = NomeFileProgramma(nome);
+        if (fs::exists(da) && !fs::exists(a)) CopiaFile(da.string(), a);
     }
 }
 } // namespace
 
 bool PrimoAvvio() {
-    return !fs::exists(NomeFileProgramma("Valute.DAT"));
+    for (const char* nome :
+         {"Causali.DAT", "RecCausa.dat", "Valute.DAT", "Imposta.DAT", "colori.col"})
+        if (fs::exists(fs::symlink_status(NomeFileProgramma(nome)))) return false;
+    return true;
 }
 
 void SeminaCausali() {
@@ -57,12 +52,7 @@ void SeminaCausali() {
 
 void EseguiPrimoAvvio() {
     // A "dati" made beforehand by hand is taken as it is.
-    std::error_code e;
-    fs::create_directory(Stato.PercorsoProgramma + "dati", e);
-    FallisceSe(e);
-
-    // Valute.DAT, which marks the installation as started, is written after the other files,
-    // so that a first start cut short by a failure is made again whole.
+    CreaCartelle(Stato.PercorsoProgramma + "dati");
     InstallaForniti();
     SeminaCausali();
 

@@ -1,9 +1,10 @@
 #pragma once
 // The first start of an installation.
 //
-// It is recognised by Valute.DAT missing from the program directory: the first start itself
-// writes that file (the Euro at record 15), no screen ever deletes it, and pruning the causali
-// doesn't touch it, so no later start takes this path again.
+// It is recognised by none of the shared files of the program directory being there (the
+// causali, their counter, the currencies, the preferences, the colours), looked at before the
+// start reads, and so leaves behind, the colours and the preferences. One file lost later reads
+// as a missing file does, and the causali of the user stay.
 #include <string>
 
 bool PrimoAvvio();

@@ -8,6 +8,8 @@
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
+#include <fstream>
+#include <iterator>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -106,6 +108,19 @@ void ScriviTutto(int fd, const unsigned char* byte, std::size_t quanti, off_t po
     }
 }
 
+// A new file of mode 0600 whatever the umask; a missing name can only be a missing directory.
+int FilePrivato(const std::string& percorso, int accesso) {
+    int fd = open(percorso.c_str(), accesso | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+    if (fd < 0 && errno == ENOENT) Errore(76);
+    if (fd < 0) ErroreDiSistema();
+    if (fchmod(fd, 0600) != 0) {
+        int errore = errno;
+        close(fd);
+        Errore(NumeroDaErrno(errore));
+    }
+    return fd;
+}
+
 int CanaleLibero() {
     for (int canale = PrimoCanale; canale <= UltimoCanale; ++canale) {
         if (canali[static_cast<std::size_t>(canale)].fd < 0) return canale;
@@ -125,9 +140,19 @@ std::string RisolviNome(const std::string& percorso) {
     return directory + nome;
 }
 
+void ControllaStelo(const std::string& stelo) {
+    bool controllo = std::any_of(stelo.begin(), stelo.end(), [](char c) {
+        auto u = static_cast<unsigned char>(c);
+        return u < 32 || u == 127 || c == '/';
+    });
+    if (stelo.empty() || controllo || stelo.find("..") != std::string::npos) Errore(52);
+}
+
 std::string NomeFileConto(const std::string& estensione) {
     Stato.CodContoAperto = Trim(Stato.CodContoAperto);
-    return RisolviNome(Stato.PercorsoDati + Trim(Stato.CodContoAperto) + estensione);
+    std::string stelo = Trim(Stato.CodContoAperto);
+    ControllaStelo(stelo);
+    return RisolviNome(Stato.PercorsoDati + stelo + estensione);
 }
 
 std::string NomeFileDati(const std::string& nome) {
@@ -149,16 +174,26 @@ std::vector<std::string> FileCheIniziano(const std::string& directory,
     return trovati;
 }
 
+void CreaCartelle(const std::string& percorso) {
+    std::size_t fine = 0;
+    while (fine != std::string::npos) {
+        fine = percorso.find('/', fine + 1);
+        std::string cartella = percorso.substr(0, fine);
+        struct stat info;
+        if (cartella.empty() || stat(cartella.c_str(), &info) == 0) continue;
+        if (mkdir(cartella.c_str(), 0700) != 0 || chmod(cartella.c_str(), 0700) != 0)
+            ErroreDiSistema();
+    }
+}
+
 void ApriRecord(const std::string& nome, int lunghezza, int canale) {
     Canale& c = CanaleValido(canale);
     if (c.fd >= 0) Errore(55);
     if (lunghezza < 1) Errore(59);
-    int fd = open(RisolviNome(nome).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-    if (fd < 0) {
-        // With O_CREAT a missing name can only be a missing directory.
-        if (errno == ENOENT) Errore(76);
-        ErroreDiSistema();
-    }
+    std::string percorso = RisolviNome(nome);
+    int fd = open(percorso.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+    if (fd < 0 && errno == ENOENT) fd = FilePrivato(percorso, O_RDWR);
+    if (fd < 0) ErroreDiSistema();
     c.fd = fd;
     c.lunghezza = static_cast<std::size_t>(lunghezza);
 }
@@ -209,11 +244,20 @@ void CopiaFile(const std::string& da, const std::string& a, bool suDisco) {
         close(sorgente);
         return;
     }
-    int copia = open(RisolviNome(a).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    std::string percorso = RisolviNome(a);
+    int copia = open(percorso.c_str(), O_WRONLY | O_TRUNC | O_NOFOLLOW | O_CLOEXEC);
+    if (copia < 0 && errno == ENOENT) {
+        try {
+            copia = FilePrivato(percorso, O_WRONLY);
+        } catch (...) {
+            close(sorgente);
+            throw;
+        }
+    }
     if (copia < 0) {
         int codice = errno;
         close(sorgente);
-        Errore(codice == ENOENT ? 76 : NumeroDaErrno(codice));
+        Errore(NumeroDaErrno(codice));
     }
     try {
         unsigned char byte[65536];

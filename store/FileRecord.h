@@ -18,8 +18,13 @@
 // in another case spelling, as data copied from a case-insensitive disk do, that file is named.
 //
 // An account's file: PercorsoDati + Trim(CodContoAperto) + estensione. The code is stored back
-// trimmed, so that the stem has no blanks at its ends.
+// trimmed, so that the stem has no blanks at its ends. A stem that ControllaStelo refuses fails
+// here, before any file is named.
 std::string NomeFileConto(const std::string& estensione);
+// Failure 52 for a stem that is empty or would lead out of the data directory or make no plain
+// name: one holding "/", "..", NUL or a control character, as a code pasted or found in
+// Conti.dat may.
+void ControllaStelo(const std::string& stelo);
 // A shared file of the data directory: PercorsoDati + nome.
 std::string NomeFileDati(const std::string& nome);
 // A shared file beside the program: PercorsoProgramma + nome.
@@ -34,7 +39,14 @@ std::string RisolviNome(const std::string& percorso);
 std::vector<std::string> FileCheIniziano(const std::string& directory,
                                          const std::string& prefisso);
 
-// Opens for read and write, creating an empty file when none exists: the program relies on it.
+// The files and folders the program makes are private, whatever the umask: they hold bank
+// records and a password. Makes the directory and those missing above it, each 0700; what
+// exists is taken as it is.
+void CreaCartelle(const std::string& percorso);
+
+// Opens for read and write, creating an empty file (0600) when none exists: the program relies
+// on it. A name that is a symbolic link is not followed (failure 75), so that a link planted in
+// the data directory doesn't redirect a write; a directory on the way may be one.
 void ApriRecord(const std::string& nome, int lunghezza, int canale);
 void ChiudiRecord(int canale);    // a channel that isn't open is left alone
 void ChiudiTutti();               // for the failure paths
@@ -108,8 +120,8 @@ template <class F> void ConRecord(const std::string& nome, int lunghezza, int ca
     ChiudiRecord(canale);
 }
 
-// A whole file copied over any file of that name, which is made 0600 when new; a missing source
-// is 53. With `suDisco` the copy has reached the disk when this returns.
+// A whole file copied over any file of that name, which is made 0600 when new (a link in its
+// place is not followed: 75); a missing source is 53, a missing folder 76. With `suDisco` the copy has reached the disk when this returns.
 void CopiaFile(const std::string& da, const std::string& a, bool suDisco = false);
 // The names in a directory reach the disk (after new files were made in it).
 void SincronizzaDirectory(const std::string& directory);

@@ -58,7 +58,7 @@ int NumeroDaErrno(int codice) {
     case ENOENT: return 53;
     case ENOTDIR: return 76;
     case ENOSPC: case EDQUOT: return 61;
-    case EACCES: case EPERM: case EROFS: return 75;
+    case EACCES: case EPERM: case EROFS: case ELOOP: return 75;
     case EIO: return 57;
     case EBUSY: return 55;
     case EEXIST: return 58;

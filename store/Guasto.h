@@ -19,7 +19,7 @@ std::string DescrizioneErrore(int numero);
 [[noreturn]] void Errore(int numero);
 
 // The failure number of a system error (errno): no such file 53, no such directory 76,
-// disk full 61, permission 75, I/O error 57, and so on.
+// disk full 61, permission 75 (and a symbolic link not followed), I/O error 57, and so on.
 int NumeroDaErrno(int codice);
 
 // A plain operation: runs one user event; a failure shows the box "Errore" with its number and

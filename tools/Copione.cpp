@@ -169,6 +169,8 @@ struct Interprete {
     void Show();
     void Focus();
     void Type();
+    void Paste();
+    void File();
     void Key();
     void Set();
     void Click();
@@ -209,9 +211,9 @@ const std::map<std::string, Comando>& Comandi() {
         {"dblclick", &Interprete::DblClick}, {"print", &Interprete::Print},
         {"state", &Interprete::State},       {"messages", &Interprete::Messages},
         {"paper", &Interprete::Paper},       {"records", &Interprete::Records},
-        {"include", &Interprete::Include},
-        {"paper", &Interprete::Paper},       {"colour", &Interprete::Colour},
-        {"installed", &Interprete::Installed},
+        {"include", &Interprete::Include},   {"colour", &Interprete::Colour},
+        {"installed", &Interprete::Installed}, {"paste", &Interprete::Paste},
+        {"file", &Interprete::File},
     };
     return comandi;
 }
@@ -404,6 +406,19 @@ void Interprete::Cwd() {
     cwdCambiata = true;
 }
 
+void Interprete::File() {
+    std::string nome = Parola();
+    if (avviato) Rifiuta("file comes before start");
+    fs::path percorso = iniziale / nome;
+    std::error_code errore;
+    fs::create_directories(nome.back() == '/' ? percorso : percorso.parent_path(), errore);
+    if (errore) Rifiuta("cannot make " + nome + ": " + errore.message());
+    if (nome.back() == '/') return FineRiga();
+    std::ofstream file(percorso, std::ios::binary);
+    while (riga.find_first_not_of(" \t", pos) != std::string::npos)
+        file.put(static_cast<char>(std::stoi(Parola(), nullptr, 16)));
+}
+
 void Interprete::Start() {
     FineRiga();
     if (avviato) Rifiuta("the program has started already");
@@ -483,6 +498,14 @@ void Interprete::Type() {
         int tasto = Tasto(Mid(testo, i, 1));
         EseguiEvento([f, tasto] { f->Digita(tasto); });
     }
+}
+
+void Interprete::Paste() {
+    Controllo& c = ControlloRaggiungibile(Parola());
+    std::string testo = Testo();
+    FineRiga();
+    if (!Fuoco(c)) return;
+    EseguiEvento([&c, &testo] { c.Incolla(testo, std::string::npos); });
 }
 
 void Interprete::Key() {

@@ -11,6 +11,8 @@
 //   program DIR              the program directory, made when missing (before start)
 //   cwd DIR                  the process's current directory (before start); both DIR are
 //                            relative to the directory where the driver was started
+//   file PATH [HEX...]       a file of those bytes, or a folder when PATH ends in "/",
+//                            relative like DIR (before start): the odd files a user may leave
 //   start                    the main window loads with its start-up
 //   demo                     makes the screens Prova and ProvaModale, which only the scripts
 //                            of the framework use
@@ -25,6 +27,7 @@
 //   type REF TEXT            focus, then each character is a key for the control with the focus
 //   key REF KEY              focus, then Enter, Tab, Backspace or Escape
 //   set REF TEXT             focus, then the whole text at once (no key filter)
+//   paste REF TEXT           focus, then TEXT pasted at the end, through the key filter
 //   click REF                a click on a command, an option or a check box
 //   select REF WHICH         a click on a line of a list or combo: #N (from 0) or the first
 //                            line that begins with TEXT

@@ -82,6 +82,8 @@ struct Legame {
 struct Filtro : QObject {
     bool eventFilter(QObject* o, QEvent* e) override;
     std::unordered_map<const QObject*, Controllo*> controlli;
+    // The field whose key the model's filter has just let through, for Qt to type.
+    const QObject* tastoAmmesso = nullptr;
 };
 
 struct LegameSchermo {
@@ -146,7 +148,7 @@ int CodiceTasto(const QKeyEvent& e) {
     return 0;
 }
 
-bool Tasto(Controllo* c, QObject* o, const QKeyEvent& e) {
+bool Tasto(Filtro& f, Controllo* c, QObject* o, const QKeyEvent& e) {
     // Tab goes where the model's tab order says, skipping what can't have the focus.
     if (e.key() == Qt::Key_Tab && !(e.modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
         EventoDaVista([c] { c->Digita(TastoTab); });
@@ -156,14 +158,42 @@ bool Tasto(Controllo* c, QObject* o, const QKeyEvent& e) {
     if (k < 0 || !c->KeyPress) return false;
     int dato = k;
     EventoDaVista([c, &dato] { c->KeyPress(dato); });
-    if (dato == k) return false;
+    if (dato == k) {
+        f.tastoAmmesso = o;
+        return false;
+    }
     // The handler dropped the key or typed another one in its place.
     if (dato != 0)
         if (auto* campo = qobject_cast<QLineEdit*>(o)) {
             auto u = static_cast<char32_t>(dato);
+            f.tastoAmmesso = o;
             campo->insert(QString::fromUcs4(&u, 1));
         }
     return true;
+}
+
+// A field the user changed. What came in other than by a key the filter let through (a paste,
+// a drop) goes through the key filter as typed keys do, so that the pasted text can't hold what
+// the keyboard refuses; the refresh after the event shows the field as the model has it.
+void Modificato(Controllo& c, QLineEdit& campo, bool tasto) {
+    QString prima = Q(c.Text());
+    QString dopo = campo.text();
+    if (tasto || !c.KeyPress || c.tipo != TipoControllo::Campo) {
+        c.SetText(TestoDi(campo, c));
+        return;
+    }
+    qsizetype inizio = 0;
+    while (inizio < prima.size() && inizio < dopo.size() && prima[inizio] == dopo[inizio])
+        ++inizio;
+    qsizetype fine = 0;
+    while (fine < prima.size() - inizio && fine < dopo.size() - inizio &&
+           prima[prima.size() - 1 - fine] == dopo[dopo.size() - 1 - fine])
+        ++fine;
+    QString resto = prima.left(inizio) + prima.right(fine);
+    if (resto != prima) c.SetText(resto.toStdString());
+    QString incollato = dopo.mid(inizio, dopo.size() - inizio - fine);
+    c.Incolla(incollato.toStdString(),
+              static_cast<std::size_t>(prima.left(inizio).toUcs4().size()));
 }
 
 bool Filtro::eventFilter(QObject* o, QEvent* e) {
@@ -183,7 +213,7 @@ bool Filtro::eventFilter(QObject* o, QEvent* e) {
         return false;
     }
     case QEvent::KeyPress:
-        return Tasto(c, o, *static_cast<QKeyEvent*>(e));
+        return Tasto(*this, c, o, *static_cast<QKeyEvent*>(e));
     case QEvent::MouseButtonDblClick:
         // A field with a double-click handler (the lists report theirs themselves).
         if (!c->DblClick || !qobject_cast<QLineEdit*>(o)) return false;
@@ -209,8 +239,10 @@ void CollegaCampo(Filtro& f, Legame& l) {
     Controllo* c = l.c;
     auto* campo = static_cast<QLineEdit*>(l.oggetto.data());
     if (c->tipo == TipoControllo::Data) campo->setInputMask("99/99/9999;_");
-    QObject::connect(campo, &QLineEdit::textEdited, &f, [c, campo] {
-        EventoDaVista([c, campo] { c->SetText(TestoDi(*campo, *c)); });
+    QObject::connect(campo, &QLineEdit::textEdited, &f, [&f, c, campo] {
+        bool tasto = f.tastoAmmesso == campo;
+        f.tastoAmmesso = nullptr;
+        EventoDaVista([c, campo, tasto] { Modificato(*c, *campo, tasto); });
     });
 }
 

@@ -7,6 +7,8 @@
 #include "ledger/CaricaConto.h"
 #include "ledger/Registro.h"
 
+#include <sys/mount.h>
+
 namespace {
 class Backup : public AmbienteChiusura {
 protected:
@@ -59,8 +61,9 @@ TEST_F(Backup, AllAccountsRestoredIntoAnEmptyDataDirectory) {
     EXPECT_FALSE(app->Form18.S.Caricato());
 }
 
-// The first file of the account goes to /dev/full, which refuses every write, even root's; a
-// missing folder fails at once. Nothing in the data directory changes.
+// The first file of the account goes to /dev/full, bound in its place, which refuses every
+// write, even root's; a missing folder fails at once. Nothing in the data directory changes.
+// Binding a file needs the right to mount: without it there is nothing to test.
 TEST_F(Backup, FullDiskOrMissingFolderReachTheDiskFailureDialogue) {
     struct Caso {
         const char* cartella;
@@ -81,7 +84,9 @@ TEST_F(Backup, FullDiskOrMissingFolderReachTheDiskFailureDialogue) {
     for (const Caso& caso : casi) {
         fs::remove_all("pieno");
         fs::create_directory("pieno");
-        fs::create_symlink("/dev/full", "pieno/CONTO12345.Ord");
+        ScriviFile("pieno/CONTO12345.Ord", {});
+        if (mount("/dev/full", "pieno/CONTO12345.Ord", nullptr, MS_BIND, nullptr) != 0)
+            GTEST_SKIP() << "no right to mount";
         porta.messaggi.clear();
         porta.risposte.assign(caso.risposte.begin(), caso.risposte.end());
         Copia(caso.cartella, true, 0);
@@ -89,6 +94,7 @@ TEST_F(Backup, FullDiskOrMissingFolderReachTheDiskFailureDialogue) {
         EXPECT_EQ(Cartella("pieno").size(), caso.copiati);
         EXPECT_EQ(app->Form18.S.Caricato(), caso.copiati == 0);
         EXPECT_EQ(Cartella("."), dati);
+        umount("pieno/CONTO12345.Ord");
     }
 }
 } // namespace

@@ -67,6 +67,7 @@ TEST_F(AvvioTest, PercorsoDatiDalPercorsoMemorizzato) {
         {"{x}/", programmaDati},
         {"1dati/", programmaDati},
     };
+    Avvia();
     for (const auto& [memorizzato, atteso] : casi) {
         fs::create_directories(programma);
         RecImposta imposta;
@@ -94,6 +95,7 @@ TEST_F(AvvioTest, ContoDiAvvio) {
         {"12", {}},
         {" 12 ", {}},
     };
+    Avvia();
     for (const auto& [memorizzato, messaggi] : casi) {
         SCOPED_TRACE(std::string("\"") + memorizzato + "\"");
         fs::create_directories(dati);

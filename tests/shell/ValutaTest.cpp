@@ -60,7 +60,7 @@ TEST_F(ValutaTest, ValutaPredefinitaAllAvvioCercataPerNome) {
         EXPECT_EQ(Combo().Text(), c.riga) << c.predefinita;
         EXPECT_EQ(Stato.Cambio, c.cambio) << c.predefinita;
         EXPECT_TRUE(Messaggi().empty()) << c.predefinita;
-        fs::remove(programma / "Valute.DAT");
+        fs::remove_all(programma);
     }
 }
 
