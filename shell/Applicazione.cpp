@@ -1,5 +1,6 @@
 #include "shell/Applicazione.h"
 
+#include "cheques/MenuAssegni.h"
 #include "refdata/CausaliValute.h"
 #include "refdata/Conti.h"
 #include "shell/Avvio.h"
@@ -16,6 +17,7 @@ Applicazione::Applicazione() {
     CollegaMenuAnagrafe(MDIForm1);
     CollegaMenuConti(MDIForm1);
     CollegaMenuMovimenti(MDIForm1);
+    CollegaMenuAssegni(MDIForm1);
     CollegaFinestraPrincipale(MDIForm1);
 }
 

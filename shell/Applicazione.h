@@ -1,6 +1,11 @@
 #pragma once
 // Every screen of the program, made once when the program starts. Screens reach each other
 // through App(), as the design's screens call each other by name (App().Form9.DataOper).
+#include "cheques/Form13.h"
+#include "cheques/Form14.h"
+#include "cheques/Form15.h"
+#include "cheques/Form17.h"
+#include "cheques/Form3.h"
 #include "ledger/Form11.h"
 #include "ledger/Form20.h"
 #include "ledger/Form9.h"
@@ -31,6 +36,11 @@ struct Applicazione {
     ::Form11 Form11;
     ::Form20 Form20;
     ::Form22 Form22;
+    ::Form3 Form3;
+    ::Form15 Form15;
+    ::Form14 Form14;
+    ::Form13 Form13;
+    ::Form17 Form17;
 
     Applicazione();
     ~Applicazione();
