@@ -4,8 +4,9 @@
 #include "shell/Applicazione.h"
 #include "store/Stato.h"
 
-// Giroconto comes with the transfers between accounts.
-void MostraGiroconto() {}
+void MostraGiroconto() {
+    App().Giroconto.S.Show(true);
+}
 
 void ApriAssegno() {
     App().Form15.S.Show();

@@ -8,7 +8,9 @@
 #include "cheques/Form3.h"
 #include "ledger/Form11.h"
 #include "ledger/Form20.h"
+#include "ledger/Form4.h"
 #include "ledger/Form9.h"
+#include "ledger/Giroconto.h"
 #include "refdata/Convertore.h"
 #include "refdata/FORM12.h"
 #include "refdata/Form10.h"
@@ -41,6 +43,8 @@ struct Applicazione {
     ::Form14 Form14;
     ::Form13 Form13;
     ::Form17 Form17;
+    ::Form4 Form4;
+    ::Giroconto Giroconto;
 
     Applicazione();
     ~Applicazione();

@@ -13,17 +13,21 @@ std::string Byte(const std::filesystem::path& file) {
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
-std::string I16(int v) { return {static_cast<char>(v & 0xFF), static_cast<char>((v >> 8) & 0xFF)}; }
-std::string I32(long v) { return I16(v & 0xFFFF) + I16((v >> 16) & 0xFFFF); }
+std::string I16(int v) {
+    return {static_cast<char>(v & 0xFF), static_cast<char>((v >> 8) & 0xFF)};
+}
+std::string I32(long v) {
+    return I16(v & 0xFFFF) + I16((v >> 16) & 0xFFFF);
+}
 std::string F64(double v) {
     char b[8];
-    std::memcpy(b, &v, 8);    // the build machines are little-endian, as the files are
+    std::memcpy(b, &v, 8); // the build machines are little-endian, as the files are
     return {b, 8};
 }
 } // namespace
 
 class CarnetTest : public AmbienteRegistro {
-protected:
+  protected:
     void SetUp() override {
         AmbienteRegistro::SetUp();
         app->Form9.S.Show();
@@ -51,8 +55,8 @@ TEST_F(CarnetTest, IlNuovoCarnetSulDiscoBytePerByte) {
 
     // 2 + 2 + 10 + 8 + 4 + 4 + 1 + 2 + 1 + 2 = 36: the cost movement 1, book 1, 1000 to
     // 1000 + 10 - 1 = 1009, open, ten sheets out, cost not aligned, the reserved 0.
-    EXPECT_EQ(Byte(File(".CAR")), I16(1) + I16(1) + "01/03/2001" + F64(2) + I32(1000) +
-                                      I32(1009) + "N" + I16(10) + "N" + I16(0));
+    EXPECT_EQ(Byte(File(".CAR")), I16(1) + I16(1) + "01/03/2001" + F64(2) + I32(1000) + I32(1009) +
+                                      "N" + I16(10) + "N" + I16(0));
     EXPECT_EQ(Byte(File(".NRC")), I16(1));
     EXPECT_EQ(Byte(File(".NRF")), I16(10));
     const std::string fog = Byte(File(".FOG"));
@@ -108,14 +112,14 @@ TEST_F(CarnetTest, IRifiutiNonScrivonoNulla) {
 }
 
 TEST_F(CarnetTest, CambioECancellazioneRinumeranoFogliEMovimenti) {
-    NuovoCarnet("01/03/2001", "1", "1000");    // movement 1, sheets 1 to 10
-    NuovoCarnet("01/03/2001", "1", "3000");    // movement 2, sheets 11 to 20
-    NuovoCarnet("01/03/2001", "1", "5000");    // movement 3, sheets 21 to 30
+    NuovoCarnet("01/03/2001", "1", "1000"); // movement 1, sheets 1 to 10
+    NuovoCarnet("01/03/2001", "1", "3000"); // movement 2, sheets 11 to 20
+    NuovoCarnet("01/03/2001", "1", "5000"); // movement 3, sheets 21 to 30
     Form15& a = app->Form15;
-    a.S.Show();    // the last book, its first sheet 5000 (sheet 21)
+    a.S.Show(); // the last book, its first sheet 5000 (sheet 21)
     a.DataAssegno.SetText("02/03/2001");
     a.IMPORTO.SetText("10");
-    a.Salva.Clicca();    // movement 4, NrDoc "5000"
+    a.Salva.Clicca(); // movement 4, NrDoc "5000"
 
     // Book 3 from 5000 to 7000: its sheets 7000 to 7009, and the NrDoc of its cheque follows.
     Stato.CarnetCorrente = 3;
@@ -140,7 +144,7 @@ TEST_F(CarnetTest, CambioECancellazioneRinumeranoFogliEMovimenti) {
     f.Del.Enabled = true;
     f.Del.Clicca();
     EXPECT_EQ(Stato.NumMovimenti, 3);
-    EXPECT_EQ(Numeri(Leggi(".MOV")).size(), 4u);    // the old last record stays behind
+    EXPECT_EQ(Numeri(Leggi(".MOV")).size(), 4u); // the old last record stays behind
     EXPECT_EQ(Stato.NumAssegni, 20);
     EXPECT_EQ(Stato.Assegni[11].NrAssegno, 7000);
     EXPECT_EQ(Stato.Assegni[11].NrFoglio, 11);
