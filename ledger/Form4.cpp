@@ -2,6 +2,7 @@
 
 #include "cheques/ElenchiAssegni.h"
 #include "ledger/Form9.h"
+#include "ledger/Immissione.h"
 #include "ledger/Registro.h"
 #include "refdata/Valute.h"
 #include "shell/Applicazione.h"
@@ -28,14 +29,6 @@ void Svuota(Form4& f) {
 void Rimetti() {
     const RecMovimento& m = Stato.Movimenti[Stato.MovimentoCorrente];
     ApplicaMovimento(m.DataValuta, m.DataOper, m.IMPORTO, m.D_A, m.Sospeso);
-}
-
-bool Manca(Controllo& campo, const char* testo) {
-    if (!DataVuota(campo.Text())) return false;
-    Piattaforma().Beep();
-    Piattaforma().MsgBox(testo, "ERRORE", Icona::Nessuna, Pulsanti::OK, 0);
-    campo.SetFocus();
-    return true;
 }
 
 // A date of 6 or 10 characters that is a date, written back as "DD/MM/YYYY"; otherwise emptied.
@@ -115,8 +108,8 @@ Form4::Form4() {
         // Put back before the checks, on every press: a refused press and a second one apply
         // the movement twice until the next rebuild.
         Rimetti();
-        if (Manca(DataOper, "Campo data operazione obbligatorio")) return;
-        if (Manca(DataValuta, "Campo data Valuta obbligatorio")) return;
+        if (DataMancante(DataOper, "Campo data operazione obbligatorio")) return;
+        if (DataMancante(DataValuta, "Campo data Valuta obbligatorio")) return;
         if (!DataBuona(DataOper) || !DataBuona(DataValuta)) return;
         if (IMPORTO.Text().empty()) {
             Piattaforma().MsgBox("Campo Importo obbligatorio", "", Icona::Nessuna, Pulsanti::OK, 0);

@@ -3,7 +3,6 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
-#include <map>
 
 // Today is 05/07/2001; one account "123", opened empty.
 
@@ -40,13 +39,6 @@ class CarnetTest : public AmbienteRegistro {
         f.CostoCarnet.SetText(costo);
         f.NrInf.SetText(inf);
         f.Salva.Clicca();
-    }
-
-    std::map<std::string, std::string> Istantanea() const {
-        std::map<std::string, std::string> file;
-        for (const auto& e : std::filesystem::directory_iterator(dir))
-            file[e.path().filename().string()] = Byte(e.path());
-        return file;
     }
 };
 

@@ -11,6 +11,9 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -34,7 +37,7 @@ inline RecMovimento Mov(int nr, const std::string& dataOper, const std::string& 
 }
 
 class AmbienteRegistro : public ::testing::Test {
-protected:
+  protected:
     PiattaformaSenzaSchermo porta;
     std::filesystem::path dir;
     std::unique_ptr<Applicazione> app;
@@ -109,9 +112,20 @@ protected:
         return t;
     }
 
+    // Every file of the data directory with its bytes, to compare a whole state with a later one.
+    std::map<std::string, std::string> Istantanea() const {
+        std::map<std::string, std::string> file;
+        for (const auto& e : std::filesystem::directory_iterator(dir)) {
+            std::ifstream in(e.path(), std::ios::binary);
+            file[e.path().filename().string()] = {std::istreambuf_iterator<char>(in), {}};
+        }
+        return file;
+    }
+
     static std::vector<int> Numeri(const std::vector<RecMovimento>& movimenti) {
         std::vector<int> numeri;
-        for (const RecMovimento& m : movimenti) numeri.push_back(m.NrOper);
+        for (const RecMovimento& m : movimenti)
+            numeri.push_back(m.NrOper);
         return numeri;
     }
 
