@@ -7,39 +7,45 @@
 #include "store/Piattaforma.h"
 #include "store/Stato.h"
 
-#include <cstdint>
-
-namespace {
-// Every survivor takes the next number and goes to that record: the old last record stays
-// behind the new count.
-void Compatta() {
-    ConRecord(NomeFileConto(".MOV"), RecMovimento::Lunghezza, 1, [] {
-        std::int16_t j = 1;
+short CompattaMovimenti(const std::function<bool(const RecMovimento&)>& scarta) {
+    short w = 1;
+    ConRecord(NomeFileConto(".MOV"), RecMovimento::Lunghezza, 1, [&] {
         for (long i = 1; i <= Stato.NumMovimenti; ++i) {
             RecMovimento& m = Stato.Movimenti[i];
-            if (m.NrOper == Stato.MovimentoCorrente) continue;
-            m.NrOper = j;
-            ScriviRecord(m, j, 1);
-            ++j;
+            if (scarta(m)) continue;
+            m.NrOper = w;
+            ScriviRecord(m, w, 1);
+            ++w;
         }
     });
-    Stato.NumMovimenti -= 1;
+    return w;
+}
+
+void RileggiMovimenti() {
     ScriviContatore(NomeFileConto(".MOR"), Stato.NumMovimenti);
     ConRecord(NomeFileConto(".MOV"), RecMovimento::Lunghezza, 1,
               [] { LeggiRecords(Stato.Movimenti.righe, 1, Stato.NumMovimenti, 1); });
 }
-} // namespace
 
 void CancellaMovimento() {
     Form9& f = App().Form9;
     Risposta r = Piattaforma().MsgBox(
         "Attenzione il movimento selezionato verrà cancellato, ...Vuoi Continuare?",
         "AVVERTIMENTO!", Icona::Esclamazione, Pulsanti::OKAnnulla, 1);
-    if (r == Risposta::OK) Compatta();
+    // Every survivor takes the next number and record: the old last record stays behind the
+    // new count.
+    if (r == Risposta::OK) {
+        CompattaMovimenti(
+            [](const RecMovimento& m) { return m.NrOper == Stato.MovimentoCorrente; });
+        Stato.NumMovimenti -= 1;
+        RileggiMovimenti();
+    }
 
     f.Del.Enabled = false;
-    if (!f.Command1.Enabled) ElencaPerOperazione();
-    else ElencaPerValuta();
+    if (!f.Command1.Enabled)
+        ElencaPerOperazione();
+    else
+        ElencaPerValuta();
 
     SvuotaRiga();
     f.DataOper.SetFocus();

@@ -2,6 +2,7 @@
 
 #include "ledger/ElencoMovimenti.h"
 #include "ledger/Form20.h"
+#include "ledger/Form4.h"
 #include "refdata/Causali.h"
 #include "reports/Stampe.h"
 #include "shell/Applicazione.h"
@@ -54,4 +55,6 @@ void CollegaMenuMovimenti(MDIForm1& f) {
     f.VisMovimenti.Click = [] { App().Form11.S.Show(); };
     f.Vista.Click = [] { App().Form11.S.Show(); };
     f.TotConti.Click = [] { App().Form22.S.Show(); };
+    f.AllConto.Click = MostraAllineamento;
+    f.Files.Click = MostraAllineamento;
 }

@@ -1,22 +1,43 @@
 #include "ledger/Form9Rinvii.h"
 
-// Giroconto comes with the transfers between accounts.
-void MostraGiroconto() {}
+#include "cheques/ElenchiAssegni.h"
+#include "shell/Applicazione.h"
+#include "store/Stato.h"
 
-// Form15 comes with the cheques.
-void ApriAssegno() {}
+void MostraGiroconto() {
+    App().Giroconto.S.Show(true);
+}
 
-// Form3 comes with the cheque books.
-void ApriCarnet() {}
+void ApriAssegno() {
+    App().Form15.S.Show();
+}
 
-// Form15 comes with the cheques.
-void GestioneAssegni() {}
+void ApriCarnet() {
+    App().Form3.S.Show();
+}
 
-// Form3 comes with the cheque books.
-void GestioneCarnet() {}
+void GestioneAssegni() {
+    Form15& f = App().Form15;
+    f.S.Carica();
+    f.DataAssegno.SetText(DataVuotaMaschera);
+    f.traente.SetText("");
+    f.S.Show();
+}
 
-// Form14 comes with the cheque views.
-void ArchivioCarnet() {}
+void GestioneCarnet() {
+    Form3& f = App().Form3;
+    f.S.Carica();
+    f.DataCarnet.SetText(DataVuotaMaschera);
+    f.NrFogli.SetText("10");
+    f.S.Show();
+}
 
-// Form17 comes with the cheque views.
-void AssegniAnnullati() {}
+void ArchivioCarnet() {
+    Stato.ChiamanteCarnet = 4;
+    App().Form14.S.Show(true);
+}
+
+void AssegniAnnullati() {
+    ElencaAnnullati();
+    App().Form17.S.Show(true);
+}

@@ -1,6 +1,6 @@
 #pragma once
 // Where Form9 hands over to the screens of the cheques, the cheque books and the transfers
-// between accounts. Each one opens its screen; until that screen exists it does nothing.
+// between accounts: each one opens its screen.
 
 // Giroconto, modal, for a new "GC" movement with more than one account: FlagOperazione = 1 on
 // its return says that nothing is to be stored.

@@ -163,6 +163,9 @@ void ChiudiConto() {
     Applicazione& a = App();
     a.Form10.S.UnloadMe();
     a.Form9.S.UnloadMe();
+    a.Form3.S.UnloadMe();
+    a.Form15.S.UnloadMe();
+    a.Form13.S.UnloadMe();
 
     MDIForm1& f = a.MDIForm1;
     for (Controllo* c : {&f.UltimaData, &f.AssMano, &f.AssFuori, &f.DescConto}) c->SetText("");

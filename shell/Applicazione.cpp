@@ -1,5 +1,6 @@
 #include "shell/Applicazione.h"
 
+#include "cheques/MenuAssegni.h"
 #include "closing/Form19.h"
 #include "interest/Form26.h"
 #include "refdata/CausaliValute.h"
@@ -20,6 +21,7 @@ Applicazione::Applicazione() {
     CollegaMenuConti(MDIForm1);
     CollegaMenuMovimenti(MDIForm1);
     CollegaMenuStampe(MDIForm1);
+    CollegaMenuAssegni(MDIForm1);
     CollegaFinestraPrincipale(MDIForm1);
     CollegaMenuChiusure(MDIForm1);
     CollegaMenuInteressi(MDIForm1);

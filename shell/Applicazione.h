@@ -1,6 +1,11 @@
 #pragma once
 // Every screen of the program, made once when the program starts. Screens reach each other
 // through App(), as the design's screens call each other by name (App().Form9.DataOper).
+#include "cheques/Form13.h"
+#include "cheques/Form14.h"
+#include "cheques/Form15.h"
+#include "cheques/Form17.h"
+#include "cheques/Form3.h"
 #include "closing/Form18.h"
 #include "closing/Form19.h"
 #include "interest/Form26.h"
@@ -8,7 +13,9 @@
 #include "interest/Staffa.h"
 #include "ledger/Form11.h"
 #include "ledger/Form20.h"
+#include "ledger/Form4.h"
 #include "ledger/Form9.h"
+#include "ledger/Giroconto.h"
 #include "refdata/Convertore.h"
 #include "refdata/FORM12.h"
 #include "refdata/Form10.h"
@@ -53,6 +60,13 @@ struct Applicazione {
     ::Form5 Form5;
     ::Help1 Help1;
     ::Form16 Form16;
+    ::Form3 Form3;
+    ::Form15 Form15;
+    ::Form14 Form14;
+    ::Form13 Form13;
+    ::Form17 Form17;
+    ::Form4 Form4;
+    ::Giroconto Giroconto;
 
     Applicazione();
     ~Applicazione();

@@ -38,6 +38,13 @@ struct StatoApplicazione {
     RecOpzioniCalcolo OpzioniCalcolo;
     RecOneriPassivi OneriPassivi;
     RecSpeseVarie SpeseVarie;
+    // The cheque screens: the book loaded into Form3 for a change (0: a new one), the sheet in
+    // work in Form15, who opened the list Form14 (0 Form3, 1 Form15, 4 Form9), and 1 once Form15
+    // works on a book picked from the list.
+    short CarnetCorrente = 0;
+    short FoglioCorrente = 0;
+    short ChiamanteCarnet = 0;
+    short CarnetScelto = 0;
 
     // Shared masters, loaded at the start.
     Tabella<RecConto> Conti{100};

@@ -18,6 +18,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -39,6 +40,14 @@ inline int NumeroGuasto(const std::function<void()>& azione) {
 inline Byte ContenutoFile(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
     return Byte(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+// Every file of a folder with its bytes, to compare a whole state with a later one.
+inline std::map<std::string, Byte> Cartella(const fs::path& cartella) {
+    std::map<std::string, Byte> file;
+    for (const auto& voce : fs::directory_iterator(cartella))
+        if (voce.is_regular_file()) file[voce.path().filename()] = ContenutoFile(voce.path());
+    return file;
 }
 
 inline void ScriviFile(const fs::path& file, const Byte& byte) {

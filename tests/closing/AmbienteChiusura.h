@@ -1,17 +1,8 @@
 #pragma once
 // The open account's environment, whose folder is the current directory, the data directory
 // "./" and the program directory "prog/", so that "./" and the 10-character stem fill exactly
-// the 12 characters of the owner field of .chi; and the files of a folder read whole.
+// the 12 characters of the owner field of .chi.
 #include "tests/Ambiente.h"
-
-#include <map>
-
-inline std::map<std::string, Byte> Cartella(const fs::path& cartella) {
-    std::map<std::string, Byte> file;
-    for (const auto& voce : fs::directory_iterator(cartella))
-        if (voce.is_regular_file()) file[voce.path().filename()] = ContenutoFile(voce.path());
-    return file;
-}
 
 class AmbienteChiusura : public AmbienteConto {
 protected:

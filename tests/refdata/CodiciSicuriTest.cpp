@@ -1,6 +1,6 @@
 // A number found in Conti.dat that would name no plain file of the data directory ("../x",
 // blanks alone) opens nothing and deletes nothing.
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include <set>
 

@@ -1,7 +1,7 @@
 // The page breaks of the list reports at their limits and one line past them, and the lines of
 // the reports that no script prints: the cheque reports, whose tables no screen of this build
 // fills yet, and the lists of all accounts.
-#include "tests/ledger/AmbienteRegistro.h"
+#include "tests/Ambiente.h"
 
 #include "refdata/Causali.h"
 #include "reports/Stampe.h"
@@ -31,10 +31,10 @@ RecAssegno Foglio(int numero, const std::string& data, double importo, const std
 }
 } // namespace
 
-class StampeTest : public AmbienteRegistro {
+class StampeTest : public AmbienteConto {
   protected:
     void SetUp() override {
-        AmbienteRegistro::SetUp();
+        AmbienteConto::SetUp();
         app->Form21.dal.SetText("01/01/2001");
         app->Form21.al.SetText("31/12/2001");
         app->Form21.Combo1.SetText(" TUTTE");
@@ -86,7 +86,7 @@ TEST_F(StampeTest, LaPaginaSiVoltaAlLimiteENonPrima) {
             Stato.NumCausali = static_cast<short>(c.righe);
             for (int j = 1; j <= c.righe; ++j)
                 ScriviCausale(1, j);
-            ScriviContatore(dir.string() + "/RecCausa.dat", Stato.NumCausali);
+            ScriviContatore(radice.string() + "/RecCausa.dat", Stato.NumCausali);
             StampaCausali();
         }
         SCOPED_TRACE(std::to_string(c.righe));
@@ -143,7 +143,7 @@ TEST_F(StampeTest, LeRigheDegliElenchi) {
     conto.abi = "1234";
     conto.Cab = "5678";
     conto.id = "9";
-    ApriRecord(dir.string() + "/Conti.dat", RecConto::Lunghezza, 1);
+    ApriRecord(radice.string() + "/Conti.dat", RecConto::Lunghezza, 1);
     ScriviRecord(conto, 1, 1);
     ChiudiRecord(1);
     RecTotali totali;

@@ -1,9 +1,8 @@
 // Starts that meet a lost or spoiled file, and what the program leaves on disk: the window always
 // comes up, the causali of the user stay, and everything made is private.
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include "ledger/Registro.h"
-#include "tests/ledger/AmbienteRegistro.h"
 
 #include <functional>
 

@@ -4,7 +4,7 @@
 #include "store/Colore.h"
 #include "store/RecordCondizioni.h"
 #include "store/Testo.h"
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 namespace {
 

@@ -3,8 +3,7 @@
 #include "store/RecordRegistro.h"
 #include "store/Stato.h"
 
-#include "tests/NumeroGuasto.h"
-#include "tests/shell/Ambiente.h"
+#include "tests/Ambiente.h"
 
 #include <set>
 #include <sys/stat.h>
