@@ -131,8 +131,10 @@ void CancellaConto() {
                              "attenzione", Icona::Nessuna, Pulsanti::OK, 0);
         return;
     }
-    // A number that names no plain file, as one found in Conti.dat may be, deletes nothing.
+    // A number that names no plain file, as one found in Conti.dat may be, deletes nothing; nor
+    // does one of blanks, whose prefix would take every file of the folder.
     const std::string stelo = Trim(Stato.Conti[scelto].CodConto);
+    if (stelo.empty()) Errore(52);
     ControllaStelo(stelo);
 
     // The last old record stays behind the new end of the file, no longer counted.

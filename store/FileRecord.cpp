@@ -145,7 +145,7 @@ void ControllaStelo(const std::string& stelo) {
         auto u = static_cast<unsigned char>(c);
         return u < 32 || u == 127 || c == '/';
     });
-    if (stelo.empty() || controllo || stelo.find("..") != std::string::npos) Errore(52);
+    if (controllo || stelo.find("..") != std::string::npos) Errore(52);
 }
 
 std::string NomeFileConto(const std::string& estensione) {

@@ -21,9 +21,9 @@
 // trimmed, so that the stem has no blanks at its ends. A stem that ControllaStelo refuses fails
 // here, before any file is named.
 std::string NomeFileConto(const std::string& estensione);
-// Failure 52 for a stem that is empty or would lead out of the data directory or make no plain
-// name: one holding "/", "..", NUL or a control character, as a code pasted or found in
-// Conti.dat may.
+// Failure 52 for a stem that would lead out of the data directory or make no plain name: one
+// holding "/", "..", NUL or a control character, as a code pasted or found in Conti.dat may.
+// An empty stem stays in the folder: with no account open the browser reads "<dati>.Opz".
 void ControllaStelo(const std::string& stelo);
 // A shared file of the data directory: PercorsoDati + nome.
 std::string NomeFileDati(const std::string& nome);

@@ -46,7 +46,9 @@ inline Byte ContenutoFile(const fs::path& file) {
 inline std::map<std::string, Byte> Cartella(const fs::path& cartella) {
     std::map<std::string, Byte> file;
     for (const auto& voce : fs::directory_iterator(cartella))
-        if (voce.is_regular_file()) file[voce.path().filename()] = ContenutoFile(voce.path());
+        // The type from the file itself: a device bound over a file reads as a file in its folder.
+        if (fs::is_regular_file(voce.path()))
+            file[voce.path().filename()] = ContenutoFile(voce.path());
     return file;
 }
 

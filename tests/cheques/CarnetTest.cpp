@@ -7,7 +7,7 @@
 // Today is 05/07/2001; one account "123", opened empty.
 
 namespace {
-std::string Byte(const std::filesystem::path& file) {
+std::string Contenuto(const std::filesystem::path& file) {
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
 }
@@ -47,11 +47,11 @@ TEST_F(CarnetTest, IlNuovoCarnetSulDiscoBytePerByte) {
 
     // 2 + 2 + 10 + 8 + 4 + 4 + 1 + 2 + 1 + 2 = 36: the cost movement 1, book 1, 1000 to
     // 1000 + 10 - 1 = 1009, open, ten sheets out, cost not aligned, the reserved 0.
-    EXPECT_EQ(Byte(File(".CAR")), I16(1) + I16(1) + "01/03/2001" + F64(2) + I32(1000) + I32(1009) +
+    EXPECT_EQ(Contenuto(File(".CAR")), I16(1) + I16(1) + "01/03/2001" + F64(2) + I32(1000) + I32(1009) +
                                       "N" + I16(10) + "N" + I16(0));
-    EXPECT_EQ(Byte(File(".NRC")), I16(1));
-    EXPECT_EQ(Byte(File(".NRF")), I16(10));
-    const std::string fog = Byte(File(".FOG"));
+    EXPECT_EQ(Contenuto(File(".NRC")), I16(1));
+    EXPECT_EQ(Contenuto(File(".NRF")), I16(10));
+    const std::string fog = Contenuto(File(".FOG"));
     ASSERT_EQ(fog.size(), 10u * 91);
     // Sheet 10: no movement, its own record 10, book 1, cheque 1009, not issued, 0, two blank
     // texts of 30, not aligned, available, not cancelled.

@@ -29,9 +29,8 @@ struct NomiSicuriTest : Ambiente {
 };
 
 TEST_F(NomiSicuriTest, UnoSteloCheEsceONonENomeNonCreaNulla) {
-    const std::string rifiutati[] = {"../x", "..",    "a/b",  "/etc/x",
-                                     "x..y", "   ",   "",     std::string("a\0b", 3),
-                                     "a\tb", "a\x1f", "a\x7f"};
+    const std::string rifiutati[] = {"../x", "..",   "a/b",  "/etc/x", "x..y",
+                                     std::string("a\0b", 3), "a\tb", "a\x1f", "a\x7f"};
     const std::set<fs::path> prima = Tutto();
     for (const std::string& codice : rifiutati) {
         Stato.CodContoAperto = codice;
