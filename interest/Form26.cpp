@@ -128,11 +128,11 @@ void MostraCondizioni(Form26& f) {
     // A field that can't be filled is left as it is and the others go on.
     std::vector<std::function<void()>> passi;
     for (auto [campo, data] : Date(f))
-        passi.push_back([campo, data] { campo->SetText(Trim(*data)); });
+        passi.push_back([campo = campo, data = data] { campo->SetText(Trim(*data)); });
     for (auto [campo, tasso] : Tassi(f))
-        passi.push_back([campo, tasso] { campo->SetText(TestoTasso(*tasso)); });
+        passi.push_back([campo = campo, tasso = tasso] { campo->SetText(TestoTasso(*tasso)); });
     for (auto [campo, importo] : Importi(f, s))
-        passi.push_back([campo, importo] {
+        passi.push_back([campo = campo, importo = importo] {
             campo->SetText(Format(*importo * Stato.Cambio, Stato.FormatoImporti));
         });
     auto frequenze = Frequenze(f);

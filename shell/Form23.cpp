@@ -47,7 +47,7 @@ Form23::Form23() {
     const std::pair<Controllo*, Controllo*> avanti[] = {
         {&NomeUt, &PassW}, {&PassW, &PerAvv}, {&PerAvv, &contAvv}, {&contAvv, &Salva}};
     for (auto [campo, prossimo] : avanti)
-        SuInvio(*campo, [prossimo] { prossimo->SetFocus(); });
+        SuInvio(*campo, [prossimo = prossimo] { prossimo->SetFocus(); });
     SuInvio(Salva, SalvaImpostazioni);
     decimali.KeyPress = [](int& tasto) {
         if ((tasto >= '0' && tasto <= '3') || tasto == TastoBackspace || tasto == TastoInvio)
