@@ -73,27 +73,6 @@ TEST_F(CausaliTest, IlDoppioneSiRiconosceSoloSulTestoEsattoDelCodice) {
     }
 }
 
-TEST_F(CausaliTest, LaModificaRiscriveAlSuoPostoSenzaProvaDiDoppioni) {
-    Conferma("BO", "Bonifico");
-    Conferma("VS", "Versamento");
-    Seleziona(F6().ElencoCausali, "BO ");
-    EXPECT_EQ(Stato.IndiceCausale, 4);
-    // The code of a causale in use is accepted.
-    Compila("VS", "Versamento bis", Scelte{false, true, true});
-    Clic(F6().OK);
-    EXPECT_TRUE(Messaggi().empty());
-    EXPECT_EQ(Tracciato(SuDisco(4)), "VS|Versamento bis|SU1");
-    EXPECT_EQ(SuDisco(4).Numero, 4);
-    EXPECT_EQ(fs::file_size(programma / "Causali.DAT"), 5u * 35);
-    EXPECT_EQ(F6().ElencoCausali.List(4), "VS     - Versamento bis           ");
-
-    // A protected code forces its values on a change too.
-    Seleziona(F6().ElencoCausali, "GC ");
-    Compila("GC", "Trasferimento");
-    Clic(F6().OK);
-    EXPECT_EQ(Tracciato(SuDisco(3)), "GC|GIROCONTO|SU1");
-}
-
 // Stand-ins for the callers not built yet, with the fields the picker fills.
 struct ChiamanteProva {
     Schermo S;
