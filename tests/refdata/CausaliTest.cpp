@@ -1,5 +1,5 @@
-// The causali: Form6's new and change modes with the protected codes and the duplicate test,
-// the picker FORM12 and its callers, and the pruning of ManutCaus.
+// The causali: the duplicate test of Form6, the commands that open the screens of the tables, and
+// the pruning of ManutCaus.
 #include "tests/Ambiente.h"
 
 #include "store/Testo.h"
@@ -70,56 +70,6 @@ TEST_F(CausaliTest, IlDoppioneSiRiconosceSoloSulTestoEsattoDelCodice) {
         }
         EXPECT_EQ(ContatoreSuDisco(), rifiutato ? 5 : 6);
         EXPECT_EQ(F6().ElencoCausali.ListCount(), ContatoreSuDisco());
-    }
-}
-
-// Stand-ins for the callers not built yet, with the fields the picker fills.
-struct ChiamanteProva {
-    Schermo S;
-    Controllo Causale{S, TipoControllo::Campo, "Causale"};
-    Controllo DescrCausale{S, TipoControllo::Etichetta, "DescrCausale"};
-    Controllo Sospeso{S, TipoControllo::Campo, "Sospeso"};
-    Controllo D_A{S, TipoControllo::Etichetta, "D_A"};
-    Controllo IMPORTO{S, TipoControllo::Campo, "IMPORTO"};
-    explicit ChiamanteProva(const std::string& nome) : S(nome, nome) {}
-};
-
-TEST_F(CausaliTest, LaSceltaDaFORM12RiempieICampiDelChiamante) {
-    std::vector<std::unique_ptr<ChiamanteProva>> sostituti;
-    for (const char* nome : {"Form4", "Form20"})
-        if (!TrovaSchermo(nome)) sostituti.push_back(std::make_unique<ChiamanteProva>(nome));
-    Conferma("BO", "Bonifico ricevuto");
-    struct Caso {
-        short chiamante;
-        const char *schermo, *fuoco, *sospeso; // what the caller's Sospeso shows after
-        short chiamanteDopo;
-        bool doppioClic;
-    };
-    const Caso casi[] = {
-        {0, "Form9", "IMPORTO", "N", 0, false},
-        {1, "Form4", "IMPORTO", "", 0, false},
-        {2, "Form20", "Sospeso", "", 2, false}, // Form20's number is never reset
-        {7, "Form9", "IMPORTO", "N", 7, true},
-    };
-    for (const Caso& caso : casi) {
-        SCOPED_TRACE(caso.schermo);
-        Schermo* chiamante = TrovaSchermo(caso.schermo);
-        for (const char* campo : {"Causale", "DescrCausale", "Sospeso", "D_A"})
-            chiamante->Trova(campo)->SetText("");
-        Stato.ChiamanteCausale = caso.chiamante;
-        FORM12& picker = app->FORM12;
-        picker.S.Show(true);
-        Seleziona(picker.List1, "BO ", caso.doppioClic);
-        if (!caso.doppioClic) EXPECT_TRUE(Clic(picker.OK));
-
-        std::string campi;
-        for (const char* campo : {"Causale", "DescrCausale", "Sospeso", "D_A"})
-            campi += chiamante->Trova(campo)->Text() + "|";
-        EXPECT_EQ(campi, std::string("BO|Bonifico ricevuto|") + caso.sospeso + "|E|");
-        EXPECT_EQ(chiamante->Fuoco(), chiamante->Trova(caso.fuoco));
-        EXPECT_EQ(Stato.ChiamanteCausale, caso.chiamanteDopo);
-        EXPECT_FALSE(picker.S.Mostrato());
-        EXPECT_EQ(picker.List1.ListIndex(), -1);
     }
 }
 
