@@ -128,15 +128,7 @@ TEST_F(ElencoTest, LaListaLeggeOrdEdEntraNellaTabella) {
 }
 
 TEST_F(ElencoTest, AssegnoAggiungeLaRigaDelDettaglioEContaNeiMovimenti) {
-    RecAssegno assegno;
-    assegno.NrFoglio = 1;
-    assegno.NrAssegno = 123456;
-    assegno.traente = "Rossi Mario";
-    assegno.NoteAss = "Affitto marzo";
-    ApriRecord(File(".FOG"), RecAssegno::Lunghezza, 1);
-    ScriviRecord(assegno, 1, 1);
-    ChiudiRecord(1);
-    ScriviContatore(File(".NRF"), 1);
+    ScriviAssegno(123456, "Affitto marzo");
     Apri({Mov(1, "01/03/2001", "01/03/2001", 500, "U", "S", "AS", "123456"),
           Mov(2, "02/03/2001", "02/03/2001", 20, "E", "S", "AS", "999"),
           Mov(3, "03/03/2001", "03/03/2001", 30, "E", "S", "VS")},

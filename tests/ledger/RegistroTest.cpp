@@ -143,9 +143,7 @@ TEST_F(RegistroTest, TotSbagliatoRiparatoAlCaricamentoConLeSueDate) {
     sbagliato.UltimaDataOperazione = "02/02/1999";
     sbagliato.PrimaDataValuta = "03/03/1999";
     sbagliato.UltimaDataValuta = "04/04/1999";
-    ApriRecord(File(".TOT"), RecTotali::Lunghezza, 1);
-    ScriviRecord(sbagliato, 1, 1);
-    ChiudiRecord(1);
+    ScriviIn(File(".TOT"), sbagliato, 1);
 
     CaricaConto();
 
