@@ -58,10 +58,6 @@ protected:
         FAIL() << "no line for movement " << n;
     }
 
-    static std::vector<double> Saldi() {
-        return {Stato.SaldoAllineamento, Stato.SaldoOperazione, Stato.SaldoValuta,
-                Stato.SaldoUltimaData};
-    }
     std::vector<double> SaldiTot() const {
         RecTotali t = LeggiTotali();
         return {t.SaldoAllineamento, t.SaldoOperazione, t.SaldoValuta, t.SaldoUltimaData};
@@ -213,24 +209,6 @@ TEST_F(ImmissioneTest, CambioNellaVistaPerValutaRivendicaLOrdinePerOperazione) {
     EXPECT_EQ(riga.substr(riga.size() - 6), "100,00");
     EXPECT_FALSE(f().Command1.Enabled);
     EXPECT_TRUE(f().Command2.Enabled);
-}
-
-TEST_F(ImmissioneTest, EscConMovimentoRichiamatoLasciaISaldiSenzaFinoAlRicarico) {
-    ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N"),
-                     Mov(2, "02/07/2001", "02/07/2001", 40, "E", "N")});
-    app->MDIForm1.S.Show();
-    f().S.Show();
-
-    Richiama(2);
-    f().Esc.Clicca();
-
-    EXPECT_FALSE(f().S.Mostrato());
-    EXPECT_EQ(SchermoAttivo(), &app->MDIForm1.S);
-    EXPECT_EQ(Saldi(), (std::vector<double>{100, 100, 100, 100}));
-    EXPECT_EQ(SaldiTot(), Saldi());
-
-    f().S.Show();
-    EXPECT_EQ(Saldi(), (std::vector<double>{140, 140, 140, 140}));
 }
 
 TEST_F(ImmissioneTest, GirocontoAnnullatoNonMemorizzaNulla) {
