@@ -190,27 +190,6 @@ TEST_F(ImmissioneTest, CambioDellUltimoMovimentoMarcatoNonNeAggiungeUno) {
     EXPECT_EQ(Numeri(Leggi(".Ord")), (std::vector<int>{1, 2, 0}));
 }
 
-TEST_F(ImmissioneTest, CambioNellaVistaPerValutaRivendicaLOrdinePerOperazione) {
-    ScriviMovimenti({Mov(1, "01/07/2001", "02/07/2001", 100, "E", "S", "VS", "", "S")});
-    f().S.Show();
-    f().Command2.Clicca();
-    ASSERT_TRUE(f().elencoValuta.Visible);
-
-    Richiama(1);
-    f().OK.Clicca();
-
-    // Refilled by value date, the mark of the elimination now gone, while the buttons say the
-    // order is by operation date.
-    EXPECT_TRUE(f().elencoValuta.Visible);
-    EXPECT_FALSE(f().ElencoMovim.Visible);
-    EXPECT_EQ(f().Label25.Text(), "Elenco Movimenti per data valuta");
-    const std::string riga = f().elencoValuta.List(0);
-    EXPECT_EQ(riga.substr(0, 7), " 732549");
-    EXPECT_EQ(riga.substr(riga.size() - 6), "100,00");
-    EXPECT_FALSE(f().Command1.Enabled);
-    EXPECT_TRUE(f().Command2.Enabled);
-}
-
 TEST_F(ImmissioneTest, GirocontoAnnullatoNonMemorizzaNulla) {
     ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N")});
     Stato.NumConti = 2;
