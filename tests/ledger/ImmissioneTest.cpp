@@ -215,28 +215,6 @@ TEST_F(ImmissioneTest, GirocontoAnnullatoNonMemorizzaNulla) {
     EXPECT_EQ(Numeri(Leggi(".MOV")), (std::vector<int>{1, 2}));
 }
 
-TEST_F(ImmissioneTest, LaSelezioneAllargaLeDateDiLavoroSenzaRestringerle) {
-    ScriviMovimenti({Mov(1, "01/06/2001", "01/06/2001", 1, "E", "S"),
-                     Mov(2, "03/07/2001", "03/07/2001", 1, "E", "S")});
-    f().S.Show();
-    auto allarga = [&](const char* dal, const char* al) {
-        f().DataInizSel.SetText(dal);
-        f().DataFineSel.SetText(al);
-        Riga("02/07/2001", "02/07/2001", "VS", "");
-        f().OK.Clicca();
-    };
-
-    allarga("15/06/2001", "02/07/2001");
-    EXPECT_EQ(Stato.PrimaDataOperazione, "01/06/2001");
-    EXPECT_EQ(Stato.UltimaDataOperazione, "03/07/2001");
-    EXPECT_EQ(f().DataInizSel.Text(), "15/06/2001");
-
-    allarga("01/01/2001", "31/12/2001");
-    EXPECT_EQ(Stato.PrimaDataOperazione, "01/01/2001");
-    EXPECT_EQ(Stato.UltimaDataOperazione, "31/12/2001");
-    EXPECT_EQ(app->MDIForm1.UltimaData.Text(), "31/12/2001");
-}
-
 // A line not suspended stays so under the next causale typed over it; the direction follows.
 TEST_F(ImmissioneTest, SospesoNRestaSottoUnAltraCausale) {
     f().S.Show();
