@@ -1,5 +1,4 @@
-// The causali: the duplicate test of Form6, the commands that open the screens of the tables, and
-// the pruning of ManutCaus.
+// The causali: the duplicate test of Form6 and the pruning of ManutCaus.
 #include "tests/Ambiente.h"
 
 #include "store/Testo.h"
@@ -70,19 +69,6 @@ TEST_F(CausaliTest, IlDoppioneSiRiconosceSoloSulTestoEsattoDelCodice) {
         }
         EXPECT_EQ(ContatoreSuDisco(), rifiutato ? 5 : 6);
         EXPECT_EQ(F6().ElencoCausali.ListCount(), ContatoreSuDisco());
-    }
-}
-
-TEST_F(CausaliTest, IComandiDellaFinestraPrincipaleApronoLeLoroSchermate) {
-    const std::pair<Controllo MDIForm1::*, const char*> casi[] = {
-        {&MDIForm1::GestCaus, "Form6"},   {&MDIForm1::Command3D4, "Form6"},
-        {&MDIForm1::gestval, "Form25"},   {&MDIForm1::SSCommand1, "Form25"},
-        {&MDIForm1::CVV, "Convertore"},
-    };
-    for (const auto& [comando, schermo] : casi) {
-        TrovaSchermo(schermo)->UnloadMe();
-        Clic(Finestra().*comando);
-        EXPECT_EQ(TrovaSchermo(schermo)->Stato(), StatoSchermo::Visibile) << schermo;
     }
 }
 
