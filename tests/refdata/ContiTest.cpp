@@ -111,35 +111,24 @@ TEST_F(ContiTest, CancellareIl12CancellaAncheIFileDel123) {
     EXPECT_EQ(Stato.IndiceConto, 0);
 }
 
-TEST_F(ContiTest, CancellazioneAnnullataORifiutata) {
+// With no account selected, or with the caption of the panel equal to the 12 characters of the
+// number, the deletion is refused after the question.
+TEST_F(ContiTest, CancellazioneRifiutata) {
     const std::string rifiuto = "[attenzione] Non si può cancellare il conto sul quale si "
                                 "lavora, devi prima chiudere il conto -> OK";
-    struct Caso {
-        const char* nome;
-        bool clr, didascalia; // Elimina immissione first; the panel's caption set to the number
-        Risposta risposta;
-        std::vector<std::string> messaggi;
-    };
-    const Caso casi[] = {
-        {"Cancel", false, false, Risposta::Annulla, {kDomandaCancella + "Annulla"}},
-        {"no account selected", true, false, Risposta::OK, {kDomandaCancella + "OK", rifiuto}},
-        {"the caption is the 12 characters", false, true, Risposta::OK,
-         {kDomandaCancella + "OK", rifiuto}},
-    };
     Archivio({"12"});
     ScriviFile(dati / "12.MOV", {});
     Clic(Finestra().NuovoConto);
-    for (const Caso& c : casi) {
+    for (bool clr : {true, false}) {
         Seleziona(F2().ListaConti, "12", true);
-        if (c.clr) Clic(F2().CLR);
-        if (c.didascalia) Finestra().Codice.SetText("12" + Blank(10));
+        if (clr) Clic(F2().CLR);
+        else Finestra().Codice.SetText("12" + Blank(10));
         Messaggi();
-        porta.risposte = {c.risposta};
+        porta.risposte = {Risposta::OK};
         Clic(F2().Del);
-        EXPECT_EQ(Messaggi(), c.messaggi) << c.nome;
-        EXPECT_TRUE(fs::exists(dati / "12.MOV")) << c.nome;
-        EXPECT_EQ(ContatoreSuDisco(), 1) << c.nome;
+        EXPECT_EQ(Messaggi(), (std::vector<std::string>{kDomandaCancella + "OK", rifiuto})) << clr;
+        EXPECT_TRUE(fs::exists(dati / "12.MOV")) << clr;
+        EXPECT_EQ(ContatoreSuDisco(), 1) << clr;
     }
 }
-
 } // namespace
