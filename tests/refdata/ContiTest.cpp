@@ -62,6 +62,12 @@ TEST_F(ContiTest, UnContoDigitatoSulForm2FiniscePaddatoSuDiscoConIlFidoInEuro) {
     EXPECT_EQ(F2().TipoConto.Text() + F2().abi.Text() + F2().Cab.Text() + F2().id.Text(), "CABID");
 }
 
+TEST_F(ContiTest, IlCapVuotoDiventaZero) {
+    Clic(Finestra().NuovoConto);
+    EseguiEvento([&] { F2().LocBanca.SetFocus(); });
+    EXPECT_EQ(F2().CapBanca.Text(), "0");
+}
+
 TEST_F(ContiTest, NumeriDoppiConfrontatiSenzaIBlankADestra) {
     const std::string rifiuto = "[ERRORE] Si è inserito un numero di conto già esistente, i "
                                 "dati inseriti non possono essere salvati. Cambiare il nr. di "
