@@ -266,9 +266,7 @@ struct AmbienteConto : Ambiente {
         RecRiporto r;
         r.DataRiporto = "31/12/2000";
         r.ImportoRiporto = importo;
-        ApriRecord(File(".RIP"), RecRiporto::Lunghezza, 1);
-        ScriviRecord(r, 1, 1);
-        ChiudiRecord(1);
+        ScriviIn(File(".RIP"), r, 1);
     }
 
     // Every record of a file of movements (.MOV or .Ord), to its end.
@@ -282,13 +280,17 @@ struct AmbienteConto : Ambiente {
         return letti;
     }
 
-    RecTotali LeggiTotali() const {
-        RecTotali t;
-        ApriRecord(File(".TOT"), RecTotali::Lunghezza, 1);
-        LeggiRecord(t, 1, 1);
-        ChiudiRecord(1);
-        return t;
+    // The only cheque of the account, on leaf 1.
+    void ScriviAssegno(int numero, const std::string& note) {
+        RecAssegno assegno;
+        assegno.NrFoglio = 1;
+        assegno.NrAssegno = numero;
+        assegno.NoteAss = note;
+        ScriviIn(File(".FOG"), assegno, 1);
+        ScriviContatore(File(".NRF"), 1);
     }
+
+    RecTotali LeggiTotali() const { return LeggiDa<RecTotali>(File(".TOT"), 1); }
 
     static std::vector<int> Numeri(const std::vector<RecMovimento>& movimenti) {
         std::vector<int> numeri;

@@ -92,14 +92,7 @@ TEST_P(RigaInerteTest, NessunaCorrezioneNessunMessaggio) {
 }
 
 TEST_F(CorrezioneTest, LaRigaDellAssegnoNonContaNelPosto) {
-    RecAssegno assegno;
-    assegno.NrFoglio = 1;
-    assegno.NrAssegno = 77;
-    assegno.NoteAss = "Affitto";
-    ApriRecord(File(".FOG"), RecAssegno::Lunghezza, 1);
-    ScriviRecord(assegno, 1, 1);
-    ChiudiRecord(1);
-    ScriviContatore(File(".NRF"), 1);
+    ScriviAssegno(77, "Affitto");
     Apri({Mov(1, "01/03/2001", "01/03/2001", 500, "U", "S", "AS", "77"),
           Mov(2, "02/03/2001", "02/03/2001", 20, "E", "S", "VS")});
     ASSERT_EQ(l().List1.ListCount(), 10);

@@ -136,15 +136,6 @@ TEST_F(Form9Test, FiltroConGiornoZeroFallisceELasciaAgUsabile) {
     EXPECT_TRUE(f().Ag.Enabled);
 }
 
-TEST_F(Form9Test, TuttiSuContoVuotoNonRicalcola) {
-    f().S.Show();
-    f().DataInizSel.SetFocus();
-    f().DataInizSel.SetText("01/01/2001");
-    f().Command3.Clicca();
-    EXPECT_EQ(f().DataInizSel.Text(), "01/01/2001");
-    EXPECT_TRUE(f().DataOper.HaFuoco());
-}
-
 TEST_F(Form9Test, OrdineConDataInizialeVuotaNonFaNulla) {
     ScriviMovimenti(Sette());
     f().S.Show();

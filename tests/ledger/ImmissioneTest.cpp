@@ -58,10 +58,6 @@ protected:
         FAIL() << "no line for movement " << n;
     }
 
-    static std::vector<double> Saldi() {
-        return {Stato.SaldoAllineamento, Stato.SaldoOperazione, Stato.SaldoValuta,
-                Stato.SaldoUltimaData};
-    }
     std::vector<double> SaldiTot() const {
         RecTotali t = LeggiTotali();
         return {t.SaldoAllineamento, t.SaldoOperazione, t.SaldoValuta, t.SaldoUltimaData};
@@ -194,45 +190,6 @@ TEST_F(ImmissioneTest, CambioDellUltimoMovimentoMarcatoNonNeAggiungeUno) {
     EXPECT_EQ(Numeri(Leggi(".Ord")), (std::vector<int>{1, 2, 0}));
 }
 
-TEST_F(ImmissioneTest, CambioNellaVistaPerValutaRivendicaLOrdinePerOperazione) {
-    ScriviMovimenti({Mov(1, "01/07/2001", "02/07/2001", 100, "E", "S", "VS", "", "S")});
-    f().S.Show();
-    f().Command2.Clicca();
-    ASSERT_TRUE(f().elencoValuta.Visible);
-
-    Richiama(1);
-    f().OK.Clicca();
-
-    // Refilled by value date, the mark of the elimination now gone, while the buttons say the
-    // order is by operation date.
-    EXPECT_TRUE(f().elencoValuta.Visible);
-    EXPECT_FALSE(f().ElencoMovim.Visible);
-    EXPECT_EQ(f().Label25.Text(), "Elenco Movimenti per data valuta");
-    const std::string riga = f().elencoValuta.List(0);
-    EXPECT_EQ(riga.substr(0, 7), " 732549");
-    EXPECT_EQ(riga.substr(riga.size() - 6), "100,00");
-    EXPECT_FALSE(f().Command1.Enabled);
-    EXPECT_TRUE(f().Command2.Enabled);
-}
-
-TEST_F(ImmissioneTest, EscConMovimentoRichiamatoLasciaISaldiSenzaFinoAlRicarico) {
-    ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N"),
-                     Mov(2, "02/07/2001", "02/07/2001", 40, "E", "N")});
-    app->MDIForm1.S.Show();
-    f().S.Show();
-
-    Richiama(2);
-    f().Esc.Clicca();
-
-    EXPECT_FALSE(f().S.Mostrato());
-    EXPECT_EQ(SchermoAttivo(), &app->MDIForm1.S);
-    EXPECT_EQ(Saldi(), (std::vector<double>{100, 100, 100, 100}));
-    EXPECT_EQ(SaldiTot(), Saldi());
-
-    f().S.Show();
-    EXPECT_EQ(Saldi(), (std::vector<double>{140, 140, 140, 140}));
-}
-
 TEST_F(ImmissioneTest, GirocontoAnnullatoNonMemorizzaNulla) {
     ScriviMovimenti({Mov(1, "01/07/2001", "01/07/2001", 100, "E", "N")});
     Stato.NumConti = 2;
@@ -258,123 +215,10 @@ TEST_F(ImmissioneTest, GirocontoAnnullatoNonMemorizzaNulla) {
     EXPECT_EQ(Numeri(Leggi(".MOV")), (std::vector<int>{1, 2}));
 }
 
-TEST_F(ImmissioneTest, GirocontoConUnSoloContoSiMemorizzaSubito) {
+// A line not suspended stays so under the next causale typed over it; the direction follows.
+TEST_F(ImmissioneTest, SospesoNRestaSottoUnAltraCausale) {
     f().S.Show();
-    Stato.FlagOperazione = 1;
-    Riga("02/07/2001", "02/07/2001", "GC", "50");
-    f().OK.Clicca();
-    EXPECT_EQ(Stato.NumMovimenti, 1);
-    EXPECT_EQ(Stato.FlagOperazione, 1);
+    Riga("01/07/2001", "01/07/2001", "PR", "");
+    Riga("01/07/2001", "01/07/2001", "VS", "");
+    EXPECT_EQ(f().Sospeso.Text() + f().D_A.Text(), "NE");
 }
-
-TEST_F(ImmissioneTest, LaSelezioneAllargaLeDateDiLavoroSenzaRestringerle) {
-    ScriviMovimenti({Mov(1, "01/06/2001", "01/06/2001", 1, "E", "S"),
-                     Mov(2, "03/07/2001", "03/07/2001", 1, "E", "S")});
-    f().S.Show();
-    auto allarga = [&](const char* dal, const char* al) {
-        f().DataInizSel.SetText(dal);
-        f().DataFineSel.SetText(al);
-        Riga("02/07/2001", "02/07/2001", "VS", "");
-        f().OK.Clicca();
-    };
-
-    allarga("15/06/2001", "02/07/2001");
-    EXPECT_EQ(Stato.PrimaDataOperazione, "01/06/2001");
-    EXPECT_EQ(Stato.UltimaDataOperazione, "03/07/2001");
-    EXPECT_EQ(f().DataInizSel.Text(), "15/06/2001");
-
-    allarga("01/01/2001", "31/12/2001");
-    EXPECT_EQ(Stato.PrimaDataOperazione, "01/01/2001");
-    EXPECT_EQ(Stato.UltimaDataOperazione, "31/12/2001");
-    EXPECT_EQ(app->MDIForm1.UltimaData.Text(), "31/12/2001");
-}
-
-// The causale as IMPORTO takes the focus, over what the line already holds.
-struct CasoCausale {
-    const char* nome;
-    const char* digitata;
-    const char* sospesoPrima;
-    const char* dAPrima;
-    const char* causale;
-    const char* descrizione;
-    const char* sospeso;
-    const char* dA;
-    bool rifiutata;
-};
-
-class CausaleTest : public ImmissioneTest, public ::testing::WithParamInterface<CasoCausale> {};
-
-TEST_P(CausaleTest, AlFuocoDellImporto) {
-    const CasoCausale& c = GetParam();
-    f().S.Show();
-    f().Causale.SetFocus();
-    f().Causale.SetText(c.digitata);
-    f().Sospeso.SetText(c.sospesoPrima);
-    f().D_A.SetText(c.dAPrima);
-    porta.messaggi.clear();
-
-    f().IMPORTO.SetFocus();
-
-    std::vector<std::string> attesi;
-    if (c.rifiutata) attesi.push_back("[ERRORE] CODICE CAUSALE NON PRESENTE! -> OK");
-    EXPECT_EQ(porta.messaggi, attesi);
-    EXPECT_EQ(c.rifiutata ? f().Causale.HaFuoco() : f().IMPORTO.HaFuoco(), true);
-    EXPECT_EQ(f().Causale.Text(), c.causale);
-    EXPECT_EQ(f().DescrCausale.Text(), c.descrizione);
-    EXPECT_EQ(f().Sospeso.Text(), c.sospeso);
-    EXPECT_EQ(f().D_A.Text(), c.dA);
-}
-
-// The description is the table's, cut to its 25 characters.
-INSTANTIATE_TEST_SUITE_P(
-    Immissione, CausaleTest,
-    ::testing::Values(
-        CasoCausale{"trovata", "VS", "", "", "VS", "Versamento contanti in ba", "S", "E",
-                    false},
-        CasoCausale{"blank_in_coda_tolti", "VS  ", "", "", "VS", "Versamento contanti in ba",
-                    "S", "E", false},
-        CasoCausale{"minuscola_rifiutata", "vs", "", "", "vs", "", "", "", true},
-        CasoCausale{"blank_in_testa_rifiutata", " VS", "", "", " VS", "", "", "", true},
-        CasoCausale{"vuota_passa", "", "", "", "", "", "", "", false},
-        CasoCausale{"sospeso_n_resta", "VS", "N", "U", "VS", "Versamento contanti in ba",
-                    "N", "E", false},
-        CasoCausale{"giroconto_tiene_la_direzione", "GC", "", "E", "GC", "GIROCONTO", "S", "E",
-                    false}),
-    [](const auto& info) { return std::string(info.param.nome); });
-
-// Keys typed into DataOper of an empty line: four of them, whatever they are, complete the year.
-struct CasoTasti {
-    const char* nome;
-    std::vector<int> tasti;
-    const char* importo;
-    const char* testo;
-    const char* fuoco;
-};
-
-class TastiDataTest : public ImmissioneTest, public ::testing::WithParamInterface<CasoTasti> {};
-
-TEST_P(TastiDataTest, CompletamentoDellAnno) {
-    const CasoTasti& c = GetParam();
-    f().S.Show();
-    f().IMPORTO.SetText(c.importo);
-    f().DataOper.SetFocus();
-    for (int tasto : c.tasti) f().S.Fuoco()->Digita(tasto);
-    EXPECT_EQ(f().DataOper.Text(), c.testo);
-    EXPECT_EQ(Riferimento(*f().S.Fuoco()), c.fuoco);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Immissione, TastiDataTest,
-    ::testing::Values(
-        CasoTasti{"quattro_cifre", {'1', '5', '0', '3'}, "", "15/03/2001", "Form9.DataValuta"},
-        CasoTasti{"tre_cifre_restano", {'1', '5', '0'}, "", "15/0_/____", "Form9.DataOper"},
-        CasoTasti{"invio_senza_importo_resta", {'1', '5', TastoInvio}, "", "15/__/____",
-                  "Form9.DataOper"},
-        CasoTasti{"invio_con_importo_avanza", {'1', '5', TastoInvio}, "3", "15/__/____",
-                  "Form9.DataValuta"},
-        CasoTasti{"backspace_non_conta", {'1', TastoBackspace, '5', '0', '3'}, "",
-                  "50/3_/2001", "Form9.DataValuta"},
-        CasoTasti{"la_barra_conta", {'1', '5', '/', '0'}, "", "15/0_/2001",
-                  "Form9.DataValuta"}),
-    [](const auto& info) { return std::string(info.param.nome); });
-

@@ -148,9 +148,7 @@ TEST_F(RegistroTest, TotSbagliatoRiparatoAlCaricamentoConLeSueDate) {
     sbagliato.UltimaDataOperazione = "02/02/1999";
     sbagliato.PrimaDataValuta = "03/03/1999";
     sbagliato.UltimaDataValuta = "04/04/1999";
-    ApriRecord(File(".TOT"), RecTotali::Lunghezza, 1);
-    ScriviRecord(sbagliato, 1, 1);
-    ChiudiRecord(1);
+    ScriviIn(File(".TOT"), sbagliato, 1);
 
     CaricaConto();
 
@@ -164,23 +162,6 @@ TEST_F(RegistroTest, TotSbagliatoRiparatoAlCaricamentoConLeSueDate) {
     EXPECT_EQ(t.UltimaDataOperazione, "02/02/1999");
     EXPECT_EQ(t.PrimaDataValuta, "03/03/1999");
     EXPECT_EQ(t.UltimaDataValuta, "04/04/1999");
-}
-
-TEST_F(RegistroTest, PannelloNellaValutaInUsoConIlFido) {
-    Stato.Cambio = 1936.27;
-    Stato.FormatoImporti = "#,###,###,##0";
-    Stato.Conti[1].Fido = 1000;
-    ScriviMovimenti({Mov(1, "05/07/2001", "05/07/2001", 1000000 / 1936.27, "E", "N"),
-                     Mov(2, "06/07/2001", "06/07/2001", 2000000 / 1936.27, "E", "S")});
-    CaricaConto();
-    auto& p = app->MDIForm1;
-    EXPECT_EQ(p.Saldi(0).Text(), "1.000.000");
-    EXPECT_EQ(p.Saldi(1).Text(), "1.000.000");
-    EXPECT_EQ(p.Saldi(3).Text(), "1.000.000");
-    EXPECT_EQ(p.Saldi(4).Text(), "3.000.000");
-    // The availability: (1000 + 516.4568...) * 1936.27 = 1936270 + 1000000.
-    EXPECT_EQ(p.Saldi(5).Text(), "2.936.270");
-    EXPECT_EQ(p.UltimaData.Text(), "05/07/2001");
 }
 
 TEST_F(RegistroTest, ConFlagOperazioneIlRicalcoloNonRidisegna) {

@@ -1,5 +1,4 @@
-// The causali: Form6's new and change modes with the protected codes and the duplicate test,
-// the picker FORM12 and its callers, and the pruning of ManutCaus.
+// The causali: the duplicate test of Form6 and the pruning of ManutCaus.
 #include "tests/Ambiente.h"
 
 #include "store/Testo.h"
@@ -70,92 +69,6 @@ TEST_F(CausaliTest, IlDoppioneSiRiconosceSoloSulTestoEsattoDelCodice) {
         }
         EXPECT_EQ(ContatoreSuDisco(), rifiutato ? 5 : 6);
         EXPECT_EQ(F6().ElencoCausali.ListCount(), ContatoreSuDisco());
-    }
-}
-
-TEST_F(CausaliTest, LaModificaRiscriveAlSuoPostoSenzaProvaDiDoppioni) {
-    Conferma("BO", "Bonifico");
-    Conferma("VS", "Versamento");
-    Seleziona(F6().ElencoCausali, "BO ");
-    EXPECT_EQ(Stato.IndiceCausale, 4);
-    // The code of a causale in use is accepted.
-    Compila("VS", "Versamento bis", Scelte{false, true, true});
-    Clic(F6().OK);
-    EXPECT_TRUE(Messaggi().empty());
-    EXPECT_EQ(Tracciato(SuDisco(4)), "VS|Versamento bis|SU1");
-    EXPECT_EQ(SuDisco(4).Numero, 4);
-    EXPECT_EQ(fs::file_size(programma / "Causali.DAT"), 5u * 35);
-    EXPECT_EQ(F6().ElencoCausali.List(4), "VS     - Versamento bis           ");
-
-    // A protected code forces its values on a change too.
-    Seleziona(F6().ElencoCausali, "GC ");
-    Compila("GC", "Trasferimento");
-    Clic(F6().OK);
-    EXPECT_EQ(Tracciato(SuDisco(3)), "GC|GIROCONTO|SU1");
-}
-
-// Stand-ins for the callers not built yet, with the fields the picker fills.
-struct ChiamanteProva {
-    Schermo S;
-    Controllo Causale{S, TipoControllo::Campo, "Causale"};
-    Controllo DescrCausale{S, TipoControllo::Etichetta, "DescrCausale"};
-    Controllo Sospeso{S, TipoControllo::Campo, "Sospeso"};
-    Controllo D_A{S, TipoControllo::Etichetta, "D_A"};
-    Controllo IMPORTO{S, TipoControllo::Campo, "IMPORTO"};
-    explicit ChiamanteProva(const std::string& nome) : S(nome, nome) {}
-};
-
-TEST_F(CausaliTest, LaSceltaDaFORM12RiempieICampiDelChiamante) {
-    std::vector<std::unique_ptr<ChiamanteProva>> sostituti;
-    for (const char* nome : {"Form4", "Form20"})
-        if (!TrovaSchermo(nome)) sostituti.push_back(std::make_unique<ChiamanteProva>(nome));
-    Conferma("BO", "Bonifico ricevuto");
-    struct Caso {
-        short chiamante;
-        const char *schermo, *fuoco, *sospeso; // what the caller's Sospeso shows after
-        short chiamanteDopo;
-        bool doppioClic;
-    };
-    const Caso casi[] = {
-        {0, "Form9", "IMPORTO", "N", 0, false},
-        {1, "Form4", "IMPORTO", "", 0, false},
-        {2, "Form20", "Sospeso", "", 2, false}, // Form20's number is never reset
-        {7, "Form9", "IMPORTO", "N", 7, true},
-    };
-    for (const Caso& caso : casi) {
-        SCOPED_TRACE(caso.schermo);
-        Schermo* chiamante = TrovaSchermo(caso.schermo);
-        // Form4 has no Sospeso.
-        for (const char* campo : {"Causale", "DescrCausale", "Sospeso", "D_A"})
-            if (Controllo* c = chiamante->Trova(campo)) c->SetText("");
-        Stato.ChiamanteCausale = caso.chiamante;
-        FORM12& picker = app->FORM12;
-        picker.S.Show(true);
-        Seleziona(picker.List1, "BO ", caso.doppioClic);
-        if (!caso.doppioClic) EXPECT_TRUE(Clic(picker.OK));
-
-        std::string campi;
-        for (const char* campo : {"Causale", "DescrCausale", "Sospeso", "D_A"})
-            if (Controllo* c = chiamante->Trova(campo)) campi += c->Text() + "|";
-            else campi += "|";
-        EXPECT_EQ(campi, std::string("BO|Bonifico ricevuto|") + caso.sospeso + "|E|");
-        EXPECT_EQ(chiamante->Fuoco(), chiamante->Trova(caso.fuoco));
-        EXPECT_EQ(Stato.ChiamanteCausale, caso.chiamanteDopo);
-        EXPECT_FALSE(picker.S.Mostrato());
-        EXPECT_EQ(picker.List1.ListIndex(), -1);
-    }
-}
-
-TEST_F(CausaliTest, IComandiDellaFinestraPrincipaleApronoLeLoroSchermate) {
-    const std::pair<Controllo MDIForm1::*, const char*> casi[] = {
-        {&MDIForm1::GestCaus, "Form6"},   {&MDIForm1::Command3D4, "Form6"},
-        {&MDIForm1::gestval, "Form25"},   {&MDIForm1::SSCommand1, "Form25"},
-        {&MDIForm1::CVV, "Convertore"},
-    };
-    for (const auto& [comando, schermo] : casi) {
-        TrovaSchermo(schermo)->UnloadMe();
-        Clic(Finestra().*comando);
-        EXPECT_EQ(TrovaSchermo(schermo)->Stato(), StatoSchermo::Visibile) << schermo;
     }
 }
 

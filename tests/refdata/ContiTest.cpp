@@ -26,8 +26,6 @@ const std::string kDomandaCancella = "[AVVERTIMENTO!] Attenzione il conto selezi
 
 struct ContiTest : AmbienteAvviato {
     Form2& F2() { return app->Form2; }
-    Form7& F7() { return app->Form7; }
-    Form10& F10() { return app->Form10; }
 
     // The table of accounts written straight into the data directory.
     void Archivio(const std::vector<std::string>& numeri) {
@@ -64,61 +62,10 @@ TEST_F(ContiTest, UnContoDigitatoSulForm2FiniscePaddatoSuDiscoConIlFidoInEuro) {
     EXPECT_EQ(F2().TipoConto.Text() + F2().abi.Text() + F2().Cab.Text() + F2().id.Text(), "CABID");
 }
 
-TEST_F(ContiTest, TastiDeiCampiDelForm2) {
-    struct Caso {
-        const char* nome;
-        Controllo Form2::*campo;
-        std::string tasti, testo;
-        int beep;
-        Controllo Form2::*fuoco;
-    };
-    const Caso casi[] = {
-        {"twelfth character moves on", &Form2::CodConto, "123456789012", "123456789012", 0,
-         &Form2::TipoConto},
-        {"Enter on an empty number stays", &Form2::CodConto, "\r", "", 0, &Form2::CodConto},
-        {"postal code refuses Enter", &Form2::CapBanca, "1\r", "1", 1, &Form2::CapBanca},
-        {"credit line keeps digits", &Form2::Fido, "1,5x", "15", 2, &Form2::Fido},
-        {"C.A.B. waits for a full A.B.I.", &Form2::Cab, "1234567890", "1234567890", 0,
-         &Form2::Cab},
-    };
+TEST_F(ContiTest, IlCapVuotoDiventaZero) {
     Clic(Finestra().NuovoConto);
-    for (const Caso& c : casi) {
-        SvuotaCampiConto(F2(), true);
-        Messaggi();
-        Digita(F2().*c.campo, c.tasti);
-        EXPECT_EQ((F2().*c.campo).Text(), c.testo) << c.nome;
-        EXPECT_EQ(Messaggi(), std::vector<std::string>(c.beep, "BEEP")) << c.nome;
-        EXPECT_EQ(F2().S.Fuoco(), &(F2().*c.fuoco)) << c.nome;
-    }
-}
-
-TEST_F(ContiTest, CabEIdGuardanoLAbiEIlCapVuotoDiventaZero) {
-    Clic(Finestra().NuovoConto);
-    // A full A.B.I. moves on to Cab; from there each key moves on at once.
-    Digita(F2().abi, "1234567890ab");
-    EXPECT_EQ(F2().Cab.Text(), "a");
-    EXPECT_EQ(F2().id.Text(), "b");
-    EXPECT_EQ(F2().S.Fuoco(), &F2().Fido);
-
     EseguiEvento([&] { F2().LocBanca.SetFocus(); });
     EXPECT_EQ(F2().CapBanca.Text(), "0");
-}
-
-TEST_F(ContiTest, IlNumeroVuotoNonSiLasciaColTabNeSiConferma) {
-    Clic(Finestra().NuovoConto);
-    Digita(F2().CodConto, "\t");
-    EXPECT_EQ(Messaggi(), std::vector<std::string>{"[ERRORE] Campo obbligatorio -> OK"});
-    EXPECT_EQ(F2().S.Fuoco(), &F2().CodConto);
-    // Going to the list is no Tab.
-    EseguiEvento([&] { F2().ListaConti.SetFocus(); });
-    EXPECT_TRUE(Messaggi().empty());
-
-    F2().NomeBanca.SetText("Banca");
-    Clic(F2().AddAnItem);
-    EXPECT_EQ(Messaggi(),
-              (std::vector<std::string>{"BEEP", "[ERRORE] Nr. di conto obbligatorio -> OK"}));
-    EXPECT_EQ(F2().S.Fuoco(), &F2().CodConto);
-    EXPECT_EQ(ContatoreSuDisco(), 0);
 }
 
 TEST_F(ContiTest, NumeriDoppiConfrontatiSenzaIBlankADestra) {
@@ -141,31 +88,6 @@ TEST_F(ContiTest, NumeriDoppiConfrontatiSenzaIBlankADestra) {
     }
     EXPECT_EQ(ContatoreSuDisco(), 3);
     EXPECT_EQ(SuDisco(2).CodConto.Testo(), " 12" + Blank(9));
-}
-
-TEST_F(ContiTest, UnContoAppenaAggiuntoSiScegliePureDallaSuaRigaCorta) {
-    Archivio({"12"});
-    Clic(Finestra().NuovoConto);
-    NuovoConto("7");
-    NuovoConto("12345678901");
-    const std::pair<const char*, short> righe[] = {{"7 ", 2}, {"12345678901 - ", 3}};
-    for (const auto& [riga, indice] : righe) {
-        Clic(F2().CLR);
-        Seleziona(F2().ListaConti, riga, true);
-        EXPECT_EQ(Stato.IndiceConto, indice) << riga;
-    }
-}
-
-TEST_F(ContiTest, EliminaImmissioneLasciaCabEIdGestioneContoNo) {
-    Clic(Finestra().NuovoConto);
-    for (Controllo* c : {&F2().CodConto, &F2().NomeBanca, &F2().abi, &F2().Cab, &F2().id})
-        c->SetText("X");
-    Clic(F2().CLR);
-    EXPECT_EQ(F2().CodConto.Text() + F2().NomeBanca.Text() + F2().abi.Text(), "");
-    EXPECT_EQ(F2().Cab.Text() + F2().id.Text(), "XX");
-
-    Clic(Finestra().NuovoConto);
-    EXPECT_EQ(F2().Cab.Text() + F2().id.Text(), "");
 }
 
 TEST_F(ContiTest, CancellareIl12CancellaAncheIFileDel123) {
@@ -195,73 +117,24 @@ TEST_F(ContiTest, CancellareIl12CancellaAncheIFileDel123) {
     EXPECT_EQ(Stato.IndiceConto, 0);
 }
 
-TEST_F(ContiTest, CancellazioneAnnullataORifiutata) {
+// With no account selected, or with the caption of the panel equal to the 12 characters of the
+// number, the deletion is refused after the question.
+TEST_F(ContiTest, CancellazioneRifiutata) {
     const std::string rifiuto = "[attenzione] Non si può cancellare il conto sul quale si "
                                 "lavora, devi prima chiudere il conto -> OK";
-    struct Caso {
-        const char* nome;
-        bool clr, didascalia; // Elimina immissione first; the panel's caption set to the number
-        Risposta risposta;
-        std::vector<std::string> messaggi;
-    };
-    const Caso casi[] = {
-        {"Cancel", false, false, Risposta::Annulla, {kDomandaCancella + "Annulla"}},
-        {"no account selected", true, false, Risposta::OK, {kDomandaCancella + "OK", rifiuto}},
-        {"the caption is the 12 characters", false, true, Risposta::OK,
-         {kDomandaCancella + "OK", rifiuto}},
-    };
     Archivio({"12"});
     ScriviFile(dati / "12.MOV", {});
     Clic(Finestra().NuovoConto);
-    for (const Caso& c : casi) {
+    for (bool clr : {true, false}) {
         Seleziona(F2().ListaConti, "12", true);
-        if (c.clr) Clic(F2().CLR);
-        if (c.didascalia) Finestra().Codice.SetText("12" + Blank(10));
+        if (clr) Clic(F2().CLR);
+        else Finestra().Codice.SetText("12" + Blank(10));
         Messaggi();
-        porta.risposte = {c.risposta};
+        porta.risposte = {Risposta::OK};
         Clic(F2().Del);
-        EXPECT_EQ(Messaggi(), c.messaggi) << c.nome;
-        EXPECT_TRUE(fs::exists(dati / "12.MOV")) << c.nome;
-        EXPECT_EQ(ContatoreSuDisco(), 1) << c.nome;
+        EXPECT_EQ(Messaggi(), (std::vector<std::string>{kDomandaCancella + "OK", rifiuto})) << clr;
+        EXPECT_TRUE(fs::exists(dati / "12.MOV")) << clr;
+        EXPECT_EQ(ContatoreSuDisco(), 1) << clr;
     }
-}
-
-TEST_F(ContiTest, ListeInOrdineDiTestoLaTabellaInOrdineDiFile) {
-    Archivio({"b2", "A1", "10", "9"});
-    Clic(Finestra().ApriConto);
-    std::vector<std::string> numeri;
-    for (const std::string& riga : F7().List1.Righe()) numeri.push_back(Trim(riga.substr(0, 12)));
-    EXPECT_EQ(numeri, (std::vector<std::string>{"10", "9", "A1", "b2"}));
-    EXPECT_EQ(Trim(Stato.Conti[1].CodConto), "b2");
-}
-
-TEST_F(ContiTest, LaSchedaSaltataOAbbandonataNonApreIlConto) {
-    ScriviConto("12", "Banca Uno", 0);
-    Clic(Finestra().ApriConto);
-    for (Controllo Form10::*comando : {&Form10::Saldi, &Form10::Command3}) {
-        Seleziona(F7().List1, "12", true);
-        Stato.FlagOperazione = 1;
-        Clic(F10().*comando);
-        EXPECT_EQ(Stato.FlagOperazione, 0);
-        EXPECT_EQ(F10().S.Stato(), StatoSchermo::Scaricato);
-        EXPECT_EQ(Stato.ContoAperto, 0);
-    }
-    // Archivio goes back to the list.
-    Seleziona(F7().List1, "12", true);
-    Clic(F10().selezione);
-    EXPECT_EQ(F10().S.Stato(), StatoSchermo::Scaricato);
-    EXPECT_EQ(SchermoAttivo(), &F7().S);
-}
-
-TEST_F(ContiTest, CentoContiSonoIlLimiteDellaTabella) {
-    std::vector<std::string> cento;
-    for (int i = 1; i <= 100; ++i) cento.push_back(std::to_string(i));
-    Archivio(cento);
-    Clic(Finestra().NuovoConto);
-    F2().CodConto.SetText("101");
-    EXPECT_FALSE(Clic(F2().AddAnItem));
-    EXPECT_EQ(Messaggi(),
-              std::vector<std::string>{"FAILURE 9 Indice non compreso nell'intervallo"});
-    EXPECT_EQ(ContatoreSuDisco(), 100);
 }
 } // namespace

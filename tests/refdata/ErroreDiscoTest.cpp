@@ -12,60 +12,50 @@
 namespace {
 using ErroreDiscoTest = Ambiente;
 
-TEST_F(ErroreDiscoTest, TestiEPulsantiPerNumero) {
+// Each number's box, and what the answer gives back: with none, the default button, the one that
+// gives up. A number with no text shows no box.
+TEST_F(ErroreDiscoTest, BoxERisultatoPerNumero) {
+    const std::string fineFile = "Input oltre la fine del file; è stata raggiunta la fine del "
+                                 "file e non si può continuare con la lettura.";
+    const Pulsanti ok = Pulsanti::OK, ra = Pulsanti::RiprovaAnnulla,
+                   iri = Pulsanti::InterrompiRiprovaIgnora;
     struct Caso {
         int numero;
-        std::string testo;
+        std::string testo; // "": no box
         Pulsanti pulsanti;
+        std::optional<Risposta> risposta;
+        int risultato;
     };
     const Caso casi[] = {
-        {52, "Nome o numero di file non valido", Pulsanti::OK},
-        {64, "Nome o numero di file non valido", Pulsanti::OK},
-        {53, "Il file non esiste.", Pulsanti::OK},
-        {54, "Modalità di file non valida.", Pulsanti::InterrompiRiprovaIgnora},
-        {55, "File già aperto.", Pulsanti::OK},
-        {57, "Errore di I/O di periferica", Pulsanti::RiprovaAnnulla},
-        {61, "Disco pieno. Continuare?", Pulsanti::InterrompiRiprovaIgnora},
-        {62,
-         "Input oltre la fine del file; è stata raggiunta la fine del file e non si può "
-         "continuare con la lettura.",
-         Pulsanti::OK},
-        {68, "Periferica non disponibile.", Pulsanti::RiprovaAnnulla},
-        {71, "Disco non pronto. Inserire un dischetto", Pulsanti::RiprovaAnnulla},
-        {76, "Il percorso non esiste", Pulsanti::OK},
+        {52, "Nome o numero di file non valido", ok, {}, 2},
+        {64, "Nome o numero di file non valido", ok, {}, 2},
+        {53, "Il file non esiste.", ok, {}, 2},
+        {54, "Modalità di file non valida.", iri, {}, 2},
+        {55, "File già aperto.", ok, {}, 2},
+        {57, "Errore di I/O di periferica", ra, Risposta::Riprova, 0},
+        {57, "Errore di I/O di periferica", ra, Risposta::Annulla, 2},
+        {57, "Errore di I/O di periferica", ra, {}, 2},
+        {61, "Disco pieno. Continuare?", iri, Risposta::Ignora, 1},
+        {61, "Disco pieno. Continuare?", iri, Risposta::Interrompi, 2},
+        {61, "Disco pieno. Continuare?", iri, {}, 2},
+        {62, fineFile, ok, {}, 2},
+        {68, "Periferica non disponibile.", ra, {}, 2},
+        {71, "Disco non pronto. Inserire un dischetto", ra, {}, 2},
+        {76, "Il percorso non esiste", ok, Risposta::OK, 2},
+        {0, "", ok, {}, 3}, {9, "", ok, {}, 3}, {58, "", ok, {}, 3}, {75, "", ok, {}, 3},
     };
     for (const Caso& c : casi) {
         porta.messaggi.clear();
         porta.box.clear();
-        porta.risposte = {Risposta::OK};
-        ErroreDisco(c.numero);
-        ASSERT_EQ(porta.box.size(), 1u) << c.numero;
+        porta.risposte.clear();
+        if (c.risposta) porta.risposte.push_back(*c.risposta);
+        EXPECT_EQ(ErroreDisco(c.numero), c.risultato) << c.numero;
+        ASSERT_EQ(porta.box.size(), c.testo.empty() ? 0u : 1u) << c.numero;
+        if (c.testo.empty()) continue;
         EXPECT_EQ(porta.messaggi[0].rfind("[Errore Disco] " + c.testo + " -> ", 0), 0u)
             << c.numero;
         EXPECT_EQ(porta.box[0].icona, Icona::Esclamazione) << c.numero;
         EXPECT_EQ(porta.box[0].pulsanti, c.pulsanti) << c.numero;
-    }
-}
-
-TEST_F(ErroreDiscoTest, RisultatoPerRisposta) {
-    struct Caso {
-        int numero;
-        std::optional<Risposta> risposta; // none: the default button, the one that gives up
-        int risultato;
-    };
-    const Caso casi[] = {
-        {57, Risposta::Riprova, 0}, {57, Risposta::Annulla, 2}, {61, Risposta::Ignora, 1},
-        {61, Risposta::Interrompi, 2}, {76, Risposta::OK, 2}, {54, {}, 2}, {57, {}, 2},
-        {61, {}, 2}, {68, {}, 2}, {71, {}, 2},
-        // No text: no box.
-        {0, {}, 3}, {9, {}, 3}, {58, {}, 3}, {75, {}, 3},
-    };
-    for (const Caso& c : casi) {
-        porta.box.clear();
-        porta.risposte.clear();
-        if (c.risposta) porta.risposte.push_back(*c.risposta);
-        EXPECT_EQ(ErroreDisco(c.numero), c.risultato) << c.numero;
-        EXPECT_EQ(porta.box.size(), c.risultato == 3 ? 0u : 1u) << c.numero;
     }
 }
 

@@ -96,17 +96,6 @@ void ScriviValute(ValuteTest& t) {
         if (r.record != 12) t.ScriviValuta(r.record, r.nome, r.paese, r.cambio);
 }
 
-TEST_F(ValuteTest, LImportoDigitatoSiMemorizzaInEuroDivisoPerIlCambioInUso) {
-    Stato.Cambio = 1936.27;
-    const double memorizzato = ImportoInEuro(1000000);
-    EXPECT_NEAR(memorizzato, 516.45689909, 1e-8);
-    EXPECT_EQ(Format(memorizzato * Stato.Cambio, "#,###,###,##0.00"), "1.000.000,00");
-
-    Stato.Cambio = 0;
-    EXPECT_FALSE(EseguiEvento([] { ImportoInEuro(100); }));
-    EXPECT_EQ(Messaggi(), std::vector<std::string>{"FAILURE 11 Divisione per zero"});
-}
-
 TEST_F(ValuteTest, LaRicercaConfrontaNomeEPaeseENonTrovaLeRigheMaiScritte) {
     ScriviValute(*this);
     LeggiTabellaValute();

@@ -110,6 +110,14 @@ TEST_F(Legatore, UnCampoPienoNonPrendeAltriTasti) {
     EXPECT_EQ(campo->text(), "Ros");
 }
 
+// A masked date reads with its blanks, which the program's date checks count on.
+TEST_F(Legatore, UnaDataMascherataSiLeggeConIBlank) {
+    auto* data = Widget<QLineEdit>("DataOper");
+    data->setFocus();
+    QTest::keyClicks(data, "15");
+    EXPECT_EQ(p.DataOper.Text(), "15/__/____");
+}
+
 TEST_F(Legatore, LeScrittureDelLegatoreNonTornanoComeEventi) {
     p.OK.Click = [this] {
         eventi.push_back("OK.Click");
