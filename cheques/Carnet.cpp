@@ -15,12 +15,16 @@
 #include <string>
 
 void ScriviNuovoCarnet() {
-    ConRecord(NomeFileConto(".CAR"), RecCarnet::Lunghezza, 1,
-              [] { ScriviRecord(Stato.Carnet[Stato.NumCarnet], Stato.NumCarnet, 1); });
-    ScriviContatore(NomeFileConto(".NRC"), Stato.NumCarnet);
-    CreaFogli();
-    ElencaCarnet();
-    App().Form3.DataCarnet.SetFocus();
+    AvvisaErrori({
+        [] {
+            ConRecord(NomeFileConto(".CAR"), RecCarnet::Lunghezza, 1,
+                      [] { ScriviRecord(Stato.Carnet[Stato.NumCarnet], Stato.NumCarnet, 1); });
+        },
+        [] { ScriviContatore(NomeFileConto(".NRC"), Stato.NumCarnet); },
+        CreaFogli,
+        ElencaCarnet,
+        [] { App().Form3.DataCarnet.SetFocus(); },
+    });
 }
 
 void CreaFogli() {

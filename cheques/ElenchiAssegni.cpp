@@ -17,15 +17,21 @@ std::string RigaCarnet(const RecCarnet& c) {
 }
 
 void ElencaCarnet() {
-    Stato.NumCarnet = LeggiContatore(NomeFileConto(".NRC"));
-    ConRecord(NomeFileConto(".CAR"), RecCarnet::Lunghezza, 1,
-              [] { LeggiRecords(Stato.Carnet.righe, 1, Stato.NumCarnet, 1); });
     Controllo& lista = App().Form14.List1;
-    // Naming a control of a screen not yet loaded loads it, as the classic forms do.
-    App().Form14.S.Carica();
-    lista.Clear();
+    AvvisaErrori({
+        [] { Stato.NumCarnet = LeggiContatore(NomeFileConto(".NRC")); },
+        [] {
+            ConRecord(NomeFileConto(".CAR"), RecCarnet::Lunghezza, 1,
+                      [] { LeggiRecords(Stato.Carnet.righe, 1, Stato.NumCarnet, 1); });
+        },
+        // Naming a control of a screen not yet loaded loads it, as the classic forms do.
+        [&] {
+            App().Form14.S.Carica();
+            lista.Clear();
+        },
+    });
     for (long i = 1; i <= Stato.NumCarnet; ++i)
-        lista.AddItem(RigaCarnet(Stato.Carnet[i]));
+        AvvisaErrori({[&] { lista.AddItem(RigaCarnet(Stato.Carnet[i])); }});
 }
 
 void ElencaSituazione() {

@@ -5,6 +5,7 @@
 #include "closing/CopieBak.h"
 #include "ledger/CaricaConto.h"
 #include "ledger/Registro.h"
+#include "shell/Applicazione.h"
 #include "store/FileRecord.h"
 #include "store/Piattaforma.h"
 #include "store/Stato.h"
@@ -36,6 +37,7 @@ void CancellaMovimentiConto() {
     for (const std::string& file :
          FileCheIniziano(Stato.PercorsoDati, Trim(Stato.CodContoAperto) + "."))
         CancellaFile(file);
+    App().Form15.List1.Clear();
     CaricaConto();
     ElencaPerOperazione();
     ScriviOrd();

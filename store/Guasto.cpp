@@ -101,6 +101,17 @@ void IgnoraErrori(std::initializer_list<std::function<void()>> passi) {
     }
 }
 
+void AvvisaErrori(std::initializer_list<std::function<void()>> passi) {
+    for (const auto& passo : passi) {
+        try {
+            passo();
+        } catch (const ErroreEsecuzione& e) {
+            Piattaforma().MsgBox("Errore numero " + std::to_string(e.numero) + " 0 " + e.what(), "",
+                                 Icona::Esclamazione, Pulsanti::OK, 0);
+        }
+    }
+}
+
 double Dividi(double dividendo, double divisore) {
     if (divisore == 0) Errore(11);
     double q = dividendo / divisore;

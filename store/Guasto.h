@@ -29,6 +29,9 @@ bool EseguiEvento(const std::function<void()>& evento);
 // An operation with failures ignored: each step runs on its own, a failing one is skipped
 // without a message and the next one runs.
 void IgnoraErrori(std::initializer_list<std::function<void()>> passi);
+// An operation that catches its failures: a failing step shows "Errore numero " + number + " " +
+// line + " " + description, the line being 0 as no statement is numbered, and the next one runs.
+void AvvisaErrori(std::initializer_list<std::function<void()>> passi);
 
 // Arithmetic that fails as the classic runtime does instead of giving inf or wrapping.
 double Dividi(double dividendo, double divisore);    // 11 on a zero divisor

@@ -1,5 +1,7 @@
 #include "tests/Ambiente.h"
 
+#include "cheques/ElenchiAssegni.h"
+
 #include <cstring>
 #include <fstream>
 #include <iterator>
@@ -146,4 +148,15 @@ TEST_F(CarnetTest, CambioECancellazioneRinumeranoFogliEMovimenti) {
     EXPECT_EQ(Stato.Carnet[2].NrInf, 7000);
     EXPECT_EQ(Stato.Movimenti[3].NrOper, 3);
     EXPECT_EQ(RTrim(Stato.Movimenti[3].NrDoc), "7000");
+}
+
+// A count past the table: the read and the line past the end each tell their failure, and the
+// list still takes the 500 books the table holds.
+TEST_F(CarnetTest, UnContatoreOltreLaTabellaAvvisaEProsegue) {
+    ScriviContatore(File(".NRC"), 501);
+    Messaggi();
+    ElencaCarnet();
+    const std::string nove = "[] Errore numero 9 0 " + DescrizioneErrore(9) + " -> OK";
+    EXPECT_EQ(Messaggi(), (std::vector<std::string>{nove, nove}));
+    EXPECT_EQ(app->Form14.List1.ListCount(), 500);
 }
