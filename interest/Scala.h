@@ -41,5 +41,14 @@ std::string ImportoInColonna(double importo, int larghezza = 16);
 // 1, 10, 100, 1000 for the divisor choice 1 to 4, 0 for any other.
 int DivisoreNumeri();
 
-// The rows of List1: one a date, an "EC " row after each beyond the credit line, the totals.
+// The ladder's rows, one a date and an "EC " row after each beyond the credit line, with the
+// figures its closing lines show.
+struct RigheLadder {
+    std::vector<std::string> righe;
+    double debitori = 0, creditori = 0;
+    double MassimoScoperto = 0, MassimaEccedenza = 0;
+};
+RigheLadder CorpoScala(const ScalaValute& s, const std::string& al);
+
+// The rows of List1: the ladder's rows, then the totals.
 std::vector<std::string> MostraScala(const ScalaValute& s, const std::string& al);

@@ -107,6 +107,5 @@ void CalcolaStaffa(Staffa& f) {
     f.SSPanel1.SetText("CALCOLO DELLA STAFFA");
 }
 
-// The printed ladder and statement belong to the reports.
-void StampaStaffa() {}
+// The printed statement belongs to the reports.
 void StampaCompetenze() {}
