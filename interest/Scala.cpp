@@ -57,7 +57,7 @@ int DivisoreNumeri() {
 }
 
 ScalaValute CostruisciScala(const std::string& dal, const std::string& al, bool soloNonSospesi,
-                            GiornoPrima giornoPrima, int ricerca) {
+                            GiornoPrima giornoPrima, int ricerca, bool perStampa) {
     ScalaValute s;
     const long inizio = GiornoCalendario(dal), fine = GiornoCalendario(al);
 
@@ -94,11 +94,22 @@ ScalaValute CostruisciScala(const std::string& dal, const std::string& al, bool 
     }
 
     // The limits go by the first and last key, which is NumeroData order, not the calendar's.
-    if (GiornoCalendario(DataChiave(s.Chiavi.front())) > inizio) AggiungiChiave(s.Chiavi, dal);
+    bool conPrima = false;
+    if (GiornoCalendario(DataChiave(s.Chiavi.front())) > inizio) {
+        if (perStampa) {
+            // Its key has no leading blank, so it sorts last; found later by its date, it is
+            // not added twice.
+            const std::string prima = TestoGiornoPrima(dal, GiornoPrima::Vero);
+            const std::string chiave = Trim(Chiave(prima));
+            s.Chiavi.insert(std::upper_bound(s.Chiavi.begin(), s.Chiavi.end(), chiave), chiave);
+            conPrima = true;
+        }
+        AggiungiChiave(s.Chiavi, dal);
+    }
     if (fine > GiornoCalendario(DataChiave(s.Chiavi.back()))) AggiungiChiave(s.Chiavi, al);
     // The day before `dal` is looked for with its key's leading blank, so never found: it is
     // always added.
-    AggiungiChiave(s.Chiavi, TestoGiornoPrima(dal, giornoPrima));
+    if (!conPrima) AggiungiChiave(s.Chiavi, TestoGiornoPrima(dal, giornoPrima));
     if (s.Chiavi.size() > RigheScala) s.Chiavi.resize(RigheScala);
 
     s.n = static_cast<int>(s.Chiavi.size());

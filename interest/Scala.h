@@ -28,9 +28,11 @@ std::string TestoGiornoPrima(const std::string& dal, GiornoPrima modo);
 // not pending, each value date a row ordered by the key Str(NumeroData) + " " + date, a row for
 // `dal` and `al` when no movement stands there, the day before `dal` always, and the running
 // balance from the carried balance and everything before `dal`. `ricerca` is how many of the
-// rows the date search looks through.
+// rows the date search looks through. `perStampa`: the printed statement's ladder, whose day
+// before a `dal` without movements sorts after every other row (and `al` then always has one).
 ScalaValute CostruisciScala(const std::string& dal, const std::string& al, bool soloNonSospesi,
-                            GiornoPrima giornoPrima = GiornoPrima::Vero, int ricerca = 365);
+                            GiornoPrima giornoPrima = GiornoPrima::Vero, int ricerca = 365,
+                            bool perStampa = false);
 
 // The date of a key with its leading blank, Mid(key, 8, 11), as the rows show it.
 std::string DataDiChiave(const std::string& chiave);

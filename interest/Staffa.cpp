@@ -106,6 +106,3 @@ void CalcolaStaffa(Staffa& f) {
     f.mostra.Visible = false;
     f.SSPanel1.SetText("CALCOLO DELLA STAFFA");
 }
-
-// The printed statement belongs to the reports.
-void StampaCompetenze() {}
