@@ -34,6 +34,19 @@ struct CompetenzeTest : AmbienteConto {
         td.DATAD2 = td.DATAD3 = td.DATAD4 = td.DATAD5 = "__/__/____";
         Stato.OneriPassivi.Per3 = 27;
     }
+    // Fido 1000; 500 out on 01/04, 1000 more on 11/04, 1500 back on 21/04; commissions 2% on
+    // the excess, 1% on the line, 0.5% and 0.25% beyond it.
+    void ScopertoDiAprile() {
+        Stato.Conti[1].Fido = 1000;
+        auto& o = Stato.OneriPassivi;
+        o.Per1 = 2;
+        o.Per2 = 1;
+        o.Per6 = 0.5f;
+        o.Per7 = 0.25f;
+        Movimenti({Mov(1, "01/04/2001", "01/04/2001", 500, "U", "N"),
+                   Mov(2, "11/04/2001", "11/04/2001", 1000, "U", "N"),
+                   Mov(3, "21/04/2001", "21/04/2001", 1500, "E", "N")});
+    }
     void Movimenti(const std::vector<RecMovimento>& m) {
         Stato.NumMovimenti = static_cast<short>(m.size());
         for (std::size_t i = 0; i < m.size(); ++i)
@@ -82,15 +95,7 @@ TEST_F(CompetenzeTest, DebitoEntroEOltreIlFido) {
     // Fido 1000. 500 out on 01/04 (10 days at -500), 1000 more on 11/04 (10 days at -1500: -1000
     // within, -500 beyond), 1500 back on 21/04. EF numeri 5000 + 10000 = 15000 at 10%:
     // 1500 / 365 = 4.1096; FF 5000 at 20%: 1000 / 365 = 2.7397; total 6.85.
-    Stato.Conti[1].Fido = 1000;
-    auto& o = Stato.OneriPassivi;
-    o.Per1 = 2;
-    o.Per2 = 1;
-    o.Per6 = 0.5f;
-    o.Per7 = 0.25f;
-    Movimenti({Mov(1, "01/04/2001", "01/04/2001", 500, "U", "N"),
-               Mov(2, "11/04/2001", "11/04/2001", 1000, "U", "N"),
-               Mov(3, "21/04/2001", "21/04/2001", 1500, "E", "N")});
+    ScopertoDiAprile();
     Competenze c = CalcolaInteressi("01/04/2001", "30/04/2001", false);
     EXPECT_DOUBLE_EQ(c.TotaleNumeriDebitori, -20000);
     EXPECT_DOUBLE_EQ(c.TotaleNumeriFuoriFido, -5000);
@@ -206,15 +211,8 @@ TEST_F(CompetenzeTest, LaStampaRifaIContiASuoModo) {
 
     // Debit within and beyond a line of 1000: the numeri of the screen, the excess commission
     // 500 * 2% and the final 19.85 + 10 not cut.
-    Stato.Conti[1].Fido = 1000;
     auto& o = Stato.OneriPassivi;
-    o.Per1 = 2;
-    o.Per2 = 1;
-    o.Per6 = 0.5f;
-    o.Per7 = 0.25f;
-    Movimenti({Mov(1, "01/04/2001", "01/04/2001", 500, "U", "N"),
-               Mov(2, "11/04/2001", "11/04/2001", 1000, "U", "N"),
-               Mov(3, "21/04/2001", "21/04/2001", 1500, "E", "N")});
+    ScopertoDiAprile();
     c = CalcolaInteressi("01/04/2001", "30/04/2001", false, true);
     CalcolaCosti(c);
     EXPECT_TRUE(HaRiga(c, " EF   31/03/2001     10,000  " + C("15.000,00") + "    " + C("4,11")));
