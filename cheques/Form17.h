@@ -15,7 +15,3 @@ struct Form17 {
 
     Form17();
 };
-
-// The print of the cancelled cheques. It comes with the printing of the list reports; until
-// then the button prints nothing.
-void StampaAssegniAnnullati();

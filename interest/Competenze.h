@@ -14,6 +14,7 @@ struct Competenze {
     double DivisoreNumeri = 0, FattoreInteresse = 0;
     int AnnoCreditori = 365, AnnoDebitori = 365;
     bool FineAnno = false;
+    bool Carta = false; // the printed statement: its own ladder, spacing and cuts
 
     // Numeri by row, in single precision as summed by rate; totals in double. Debits negative.
     std::array<float, RigheScala + 1> NumeriDebitoriData{}, NumeriCreditoriData{},
@@ -32,7 +33,8 @@ struct Competenze {
 // The ladder of the period by the competences' own rules, its numeri by row, the credit interest
 // with the withholding tax and the debit interest within and beyond the credit line, with their
 // rows. `dal` and `al` are valid dates.
-Competenze CalcolaInteressi(const std::string& dal, const std::string& al, bool soloNonSospesi);
+Competenze CalcolaInteressi(const std::string& dal, const std::string& al, bool soloNonSospesi,
+                            bool carta = false);
 // Goes on with the commissions, the free and the fixed charges, the summary and the commission
 // on the excess.
 void CalcolaCosti(Competenze& c);

@@ -36,15 +36,17 @@ void MassimoScoperto(Competenze& c) {
         commissioneEF = ImportoInColonna(std::floor(a * o.Per2 / 100), 16);
         c.VociCosto[1] = a * o.Per2 / 100;
     }
-    c.Righe.insert(
-        c.Righe.end(),
-        {"    COMMISSIONE MASSIMO SCOPERTO", "    ",
-         "          DATA      ALIQUOTA  BASE DI CALCOLO  IMPORTO COMMISSIONE", "    ",
-         " EF   " + c.DataMassimoScoperto + "    " + TestoAliquota(o.Per2) + "  " + baseEF +
-             "     " + commissioneEF,
-         " FF                 " + TestoAliquota(o.Per6) + "  " + baseFF + "     " + commissioneFF,
-         " FFGG               " + TestoAliquota(o.Per7) + "  " + baseFF + "     " + commissioneFFGG,
-         Tratto, Space(49) + ImportoInColonna(c.VociCosto[1], 16)});
+    const std::string tra = c.Carta ? "    " : "     ";
+    c.Righe.insert(c.Righe.end(),
+                   {"    COMMISSIONE MASSIMO SCOPERTO", "    ",
+                    "          DATA      ALIQUOTA  BASE DI CALCOLO  IMPORTO COMMISSIONE", "    ",
+                    " EF   " + c.DataMassimoScoperto + (c.Carta ? "     " : "    ") +
+                        TestoAliquota(o.Per2) + "  " + baseEF + tra + commissioneEF,
+                    (c.Carta ? " FF                  " : " FF                 ") +
+                        TestoAliquota(o.Per6) + "  " + baseFF + tra + commissioneFF,
+                    (c.Carta ? " FFGG                " : " FFGG               ") +
+                        TestoAliquota(o.Per7) + "  " + baseFF + tra + commissioneFFGG,
+                    Tratto, Space(49) + ImportoInColonna(c.VociCosto[1], 16)});
 }
 
 // A free percentage charge, `quale` 1 or 2, on the base its applied-to value names.
@@ -78,16 +80,17 @@ void CaricoLibero(Competenze& c, int quale) {
         nota = " applicato sui numeri creditori";
         break;
     case 5:
-        // The two charges differ here, and the first comes out negative: kept as it is.
-        base = quale == 2 ? -d : d - 1;
-        importo = quale == 2 ? (p * d / c.AnnoDebitori) * -1 * c.FattoreInteresse
-                             : p * d / c.AnnoDebitori - 1 * c.FattoreInteresse;
+        // The two charges differ here on the screen, and the first comes out negative: kept as
+        // it is. Paper writes both as the second.
+        base = quale == 2 || c.Carta ? -d : d - 1;
+        importo = quale == 2 || c.Carta ? (p * d / c.AnnoDebitori) * -1 * c.FattoreInteresse
+                                        : p * d / c.AnnoDebitori - 1 * c.FattoreInteresse;
         nota = " applicato sui numeri debitori";
         break;
     case 6:
         base = x == 0 ? 0 : x + Stato.Cambio * Stato.Conti[Stato.IndiceConto].Fido;
         importo = x == 0 ? 0 : p * base / 100;
-        nota = " applicato al massima scopertura";
+        nota = c.Carta ? " applicato alla massima scopertura" : " applicato al massima scopertura";
         break;
     default:
         break;
@@ -177,18 +180,20 @@ void Riepilogo(Competenze& c) {
 
     const double x = -c.MassimaEccedenza;
     if (x == 0) return Chiusura(r);
-    const double commissione = std::floor(o.Per1 * x / 100);
-    r.insert(r.end(),
-             {" ", Regola, " - COMMISSIONE ECCEDENZA O EXTRAFIDO ", " ",
-              "   ALIQUOTA    BASE DI CALCOLO  IMPORTO COMMISSIONE", " ",
-              "    " + TestoAliquota(o.Per1) + "    " + ImportoInColonna(std::floor(x), 16) +
-                  "    " + ImportoInColonna(commissione, 16)});
+    // Paper cuts none of these amounts to an integer.
+    auto taglia = [&c](double v) { return c.Carta ? v : std::floor(v); };
+    const double commissione = taglia(o.Per1 * x / 100);
+    r.insert(r.end(), {c.Carta ? Space(27) : " ", Regola, " - COMMISSIONE ECCEDENZA O EXTRAFIDO ",
+                       " ", "   ALIQUOTA    BASE DI CALCOLO  IMPORTO COMMISSIONE", " ",
+                       (c.Carta ? Space(5) : Space(4)) + TestoAliquota(o.Per1) + "    " +
+                           ImportoInColonna(taglia(x), 16) + (c.Carta ? "   " : "    ") +
+                           ImportoInColonna(commissione, 16)});
     // Compared with the credit interest whichever side the difference stands on.
     voce = t < netti ? "COMPETENZE FINALI A CREDITO  " : "SBILANCIO COMPETENZE A DEBITO";
-    t = t < netti ? std::floor(netti - t - commissione) : std::floor(t + commissione);
-    r.insert(r.end(), {" ", "     " + voce + ImportoInColonna(t, 16)});
+    t = t < netti ? taglia(netti - t - commissione) : taglia(t + commissione);
+    r.insert(r.end(), {c.Carta ? Space(8) : " ", "     " + voce + ImportoInColonna(t, 16)});
     Chiusura(r);
-    Chiusura(r);
+    if (!c.Carta) Chiusura(r);
 }
 } // namespace
 

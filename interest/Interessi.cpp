@@ -117,11 +117,12 @@ void Creditori(Competenze& c) {
         double somma = Somma(c.NumeriCreditoriData, b, c);
         double interesse = (tasso * somma) / c.AnnoCreditori * c.FattoreInteresse;
         c.InteressiLordi += interesse;
-        r.push_back("    " + b.inizio + "      " + TestoAliquota(tasso) + "  " +
-                    ImportoInColonna(somma, 16) + "     " + ImportoInColonna(interesse, 16));
+        r.push_back((c.Carta ? Space(6) : Space(4)) + b.inizio + (c.Carta ? "     " : "      ") +
+                    TestoAliquota(tasso) + "  " + ImportoInColonna(somma, 16) +
+                    (c.Carta ? "    " : "     ") + ImportoInColonna(interesse, 16));
     }
     r.push_back("                                               ___________________");
-    r.push_back("                               Totale Lordo      " +
+    r.push_back((c.Carta ? Space(33) + "Totale Lordo    " : Space(31) + "Totale Lordo      ") +
                 ImportoInColonna(c.InteressiLordi, 16));
     r.push_back(" ");
 
@@ -153,10 +154,12 @@ void Debitori(Competenze& c) {
         double interesseE = (tassoE * sommaE) / c.AnnoDebitori * c.FattoreInteresse;
         double interesseF = (tassoF * sommaF) / c.AnnoDebitori * c.FattoreInteresse;
         c.InteressiDebitori += interesseE + interesseF;
-        r.push_back(" EF  " + b.inizio + "     " + TestoAliquota(tassoE) + "  " +
-                    ImportoInColonna(sommaE, 16) + "     " + ImportoInColonna(interesseE, 16));
-        r.push_back(" FF                 " + TestoAliquota(tassoF) + "  " +
-                    ImportoInColonna(sommaF, 16) + "     " + ImportoInColonna(interesseF, 16));
+        const std::string tra = c.Carta ? "    " : "     ";
+        r.push_back((c.Carta ? " EF   " : " EF  ") + b.inizio + "     " + TestoAliquota(tassoE) +
+                    "  " + ImportoInColonna(sommaE, 16) + tra + ImportoInColonna(interesseE, 16));
+        r.push_back((c.Carta ? " FF                  " : " FF                 ") +
+                    TestoAliquota(tassoF) + "  " + ImportoInColonna(sommaF, 16) + tra +
+                    ImportoInColonna(interesseF, 16));
     }
     r.insert(r.end(), {"                                               ___________________",
                        "                                      Totale        " +
@@ -181,8 +184,10 @@ std::string TestoAliquota(float tasso) {
     return Format(tasso, "00.000");
 }
 
-Competenze CalcolaInteressi(const std::string& dal, const std::string& al, bool soloNonSospesi) {
+Competenze CalcolaInteressi(const std::string& dal, const std::string& al, bool soloNonSospesi,
+                            bool carta) {
     Competenze c;
+    c.Carta = carta;
     c.dal = dal;
     c.al = al;
     c.DivisoreNumeri = DivisoreNumeri();
@@ -190,8 +195,8 @@ Competenze CalcolaInteressi(const std::string& dal, const std::string& al, bool 
     c.AnnoCreditori = Stato.OpzioniCalcolo.GiorniCreditori == "1" ? 360 : 365;
     c.AnnoDebitori = Stato.OpzioniCalcolo.GiorniDebitori == "1" ? 360 : 365;
     c.FineAnno = Left(al, 6) == "31/12/";
-    c.Scala = CostruisciScala(dal, al, soloNonSospesi, GiornoPrima::SecoloDiDal, Ricerca());
-    c.GiornoPrima = TestoGiornoPrima(dal, GiornoPrima::SecoloDiDal);
+    c.Scala = CostruisciScala(dal, al, soloNonSospesi, GiornoPrima::SecoloDiDal, Ricerca(), carta);
+    c.GiornoPrima = TestoGiornoPrima(dal, carta ? GiornoPrima::Vero : GiornoPrima::SecoloDiDal);
     Numeri(c);
     Creditori(c);
     Debitori(c);

@@ -57,7 +57,7 @@ int DivisoreNumeri() {
 }
 
 ScalaValute CostruisciScala(const std::string& dal, const std::string& al, bool soloNonSospesi,
-                            GiornoPrima giornoPrima, int ricerca) {
+                            GiornoPrima giornoPrima, int ricerca, bool perStampa) {
     ScalaValute s;
     const long inizio = GiornoCalendario(dal), fine = GiornoCalendario(al);
 
@@ -94,11 +94,22 @@ ScalaValute CostruisciScala(const std::string& dal, const std::string& al, bool 
     }
 
     // The limits go by the first and last key, which is NumeroData order, not the calendar's.
-    if (GiornoCalendario(DataChiave(s.Chiavi.front())) > inizio) AggiungiChiave(s.Chiavi, dal);
+    bool conPrima = false;
+    if (GiornoCalendario(DataChiave(s.Chiavi.front())) > inizio) {
+        if (perStampa) {
+            // Its key has no leading blank, so it sorts last; found later by its date, it is
+            // not added twice.
+            const std::string prima = TestoGiornoPrima(dal, GiornoPrima::Vero);
+            const std::string chiave = Trim(Chiave(prima));
+            s.Chiavi.insert(std::upper_bound(s.Chiavi.begin(), s.Chiavi.end(), chiave), chiave);
+            conPrima = true;
+        }
+        AggiungiChiave(s.Chiavi, dal);
+    }
     if (fine > GiornoCalendario(DataChiave(s.Chiavi.back()))) AggiungiChiave(s.Chiavi, al);
     // The day before `dal` is looked for with its key's leading blank, so never found: it is
     // always added.
-    AggiungiChiave(s.Chiavi, TestoGiornoPrima(dal, giornoPrima));
+    if (!conPrima) AggiungiChiave(s.Chiavi, TestoGiornoPrima(dal, giornoPrima));
     if (s.Chiavi.size() > RigheScala) s.Chiavi.resize(RigheScala);
 
     s.n = static_cast<int>(s.Chiavi.size());
@@ -123,12 +134,10 @@ long GiorniRiga(const ScalaValute& s, int r, const std::string& al) {
     return DifferenzaGiorni(s.DateScala[r], prossima);
 }
 
-std::vector<std::string> MostraScala(const ScalaValute& s, const std::string& al) {
-    std::vector<std::string> righe;
+RigheLadder CorpoScala(const ScalaValute& s, const std::string& al) {
+    RigheLadder l;
     const double divisore = DivisoreNumeri();
     const double limite = -(Stato.Cambio * Stato.Conti[Stato.IndiceConto].Fido) + 0.0;
-    double debitori = 0, creditori = 0;
-    double massimoScoperto = 0, massimaEccedenza = 0;
     auto numeri = [divisore](long gg, double importo) {
         return divisore == 0 ? 0.0 : gg * importo / divisore;
     };
@@ -147,35 +156,40 @@ std::vector<std::string> MostraScala(const ScalaValute& s, const std::string& al
         std::string inizio = "   " + data + "  " + ImportoInColonna(saldo) + " " +
                              AllineaDestra(Str(static_cast<double>(gg)), 4) + " ";
         if (saldo < 0) {
-            debitori += -n;
-            righe.push_back(inizio + ImportoInColonna(-n));
+            l.debitori += -n;
+            l.righe.push_back(inizio + ImportoInColonna(-n));
         } else {
-            creditori += n;
-            righe.push_back(inizio + Space(17) + ImportoInColonna(n));
+            l.creditori += n;
+            l.righe.push_back(inizio + Space(17) + ImportoInColonna(n));
         }
         if (oltre) {
             double ne = -numeri(gg, eccedenza);
-            debitori += ne;
-            righe.push_back("EC " + data + "  " + ImportoInColonna(eccedenza) + " " +
-                            AllineaDestra(Str(static_cast<double>(gg)), 4) + " " +
-                            ImportoInColonna(ne));
-            massimaEccedenza = std::min(massimaEccedenza, eccedenza);
+            l.debitori += ne;
+            l.righe.push_back("EC " + data + "  " + ImportoInColonna(eccedenza) + " " +
+                              AllineaDestra(Str(static_cast<double>(gg)), 4) + " " +
+                              ImportoInColonna(ne));
+            l.MassimaEccedenza = std::min(l.MassimaEccedenza, eccedenza);
         }
-        massimoScoperto = std::min(massimoScoperto, saldo);
+        l.MassimoScoperto = std::min(l.MassimoScoperto, saldo);
     }
+    return l;
+}
 
+std::vector<std::string> MostraScala(const ScalaValute& s, const std::string& al) {
+    RigheLadder l = CorpoScala(s, al);
+    std::vector<std::string>& righe = l.righe;
     righe.push_back(Riga);
     righe.push_back("Liq. finale     " + ImportoInColonna(Stato.Cambio * s.SaldiScala[s.n]));
     righe.push_back(Riga);
-    righe.push_back("                             Totali   " + ImportoInColonna(debitori) + " " +
-                    ImportoInColonna(creditori));
+    righe.push_back("                             Totali   " + ImportoInColonna(l.debitori) + " " +
+                    ImportoInColonna(l.creditori));
     righe.push_back(Riga);
     righe.push_back(" massima eccedenza/estrafido Lire     " +
-                    ImportoInColonna(-massimaEccedenza + 0.0));
-    if (massimoScoperto != 0) {
+                    ImportoInColonna(-l.MassimaEccedenza + 0.0));
+    if (l.MassimoScoperto != 0) {
         righe.push_back(Riga);
         righe.push_back(" massimo scoperto            Lire     " +
-                        ImportoInColonna(-(massimaEccedenza + massimoScoperto)));
+                        ImportoInColonna(-(l.MassimaEccedenza + l.MassimoScoperto)));
     }
     return righe;
 }

@@ -28,9 +28,11 @@ std::string TestoGiornoPrima(const std::string& dal, GiornoPrima modo);
 // not pending, each value date a row ordered by the key Str(NumeroData) + " " + date, a row for
 // `dal` and `al` when no movement stands there, the day before `dal` always, and the running
 // balance from the carried balance and everything before `dal`. `ricerca` is how many of the
-// rows the date search looks through.
+// rows the date search looks through. `perStampa`: the printed statement's ladder, whose day
+// before a `dal` without movements sorts after every other row (and `al` then always has one).
 ScalaValute CostruisciScala(const std::string& dal, const std::string& al, bool soloNonSospesi,
-                            GiornoPrima giornoPrima = GiornoPrima::Vero, int ricerca = 365);
+                            GiornoPrima giornoPrima = GiornoPrima::Vero, int ricerca = 365,
+                            bool perStampa = false);
 
 // The date of a key with its leading blank, Mid(key, 8, 11), as the rows show it.
 std::string DataDiChiave(const std::string& chiave);
@@ -41,5 +43,14 @@ std::string ImportoInColonna(double importo, int larghezza = 16);
 // 1, 10, 100, 1000 for the divisor choice 1 to 4, 0 for any other.
 int DivisoreNumeri();
 
-// The rows of List1: one a date, an "EC " row after each beyond the credit line, the totals.
+// The ladder's rows, one a date and an "EC " row after each beyond the credit line, with the
+// figures its closing lines show.
+struct RigheLadder {
+    std::vector<std::string> righe;
+    double debitori = 0, creditori = 0;
+    double MassimoScoperto = 0, MassimaEccedenza = 0;
+};
+RigheLadder CorpoScala(const ScalaValute& s, const std::string& al);
+
+// The rows of List1: the ladder's rows, then the totals.
 std::vector<std::string> MostraScala(const ScalaValute& s, const std::string& al);

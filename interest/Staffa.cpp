@@ -106,7 +106,3 @@ void CalcolaStaffa(Staffa& f) {
     f.mostra.Visible = false;
     f.SSPanel1.SetText("CALCOLO DELLA STAFFA");
 }
-
-// The printed ladder and statement belong to the reports.
-void StampaStaffa() {}
-void StampaCompetenze() {}

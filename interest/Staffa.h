@@ -37,7 +37,7 @@ void CalcolaStaffa(Staffa& f);
 // `dal`, then `al`: a bad one takes the first, or last, operation date and the focus; false.
 bool ControllaPeriodo(Staffa& f);
 
-// The prints of the ladder and of the competences, which come with the printed reports; until
-// then they print nothing.
+// The ladder printed from the dates as they stand, then "via" pressed to show it again.
 void StampaStaffa();
+// The statement of competences, computed again for paper, where it differs from the screen.
 void StampaCompetenze();

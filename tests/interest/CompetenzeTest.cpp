@@ -34,6 +34,19 @@ struct CompetenzeTest : AmbienteConto {
         td.DATAD2 = td.DATAD3 = td.DATAD4 = td.DATAD5 = "__/__/____";
         Stato.OneriPassivi.Per3 = 27;
     }
+    // Fido 1000; 500 out on 01/04, 1000 more on 11/04, 1500 back on 21/04; commissions 2% on
+    // the excess, 1% on the line, 0.5% and 0.25% beyond it.
+    void ScopertoDiAprile() {
+        Stato.Conti[1].Fido = 1000;
+        auto& o = Stato.OneriPassivi;
+        o.Per1 = 2;
+        o.Per2 = 1;
+        o.Per6 = 0.5f;
+        o.Per7 = 0.25f;
+        Movimenti({Mov(1, "01/04/2001", "01/04/2001", 500, "U", "N"),
+                   Mov(2, "11/04/2001", "11/04/2001", 1000, "U", "N"),
+                   Mov(3, "21/04/2001", "21/04/2001", 1500, "E", "N")});
+    }
     void Movimenti(const std::vector<RecMovimento>& m) {
         Stato.NumMovimenti = static_cast<short>(m.size());
         for (std::size_t i = 0; i < m.size(); ++i)
@@ -82,15 +95,7 @@ TEST_F(CompetenzeTest, DebitoEntroEOltreIlFido) {
     // Fido 1000. 500 out on 01/04 (10 days at -500), 1000 more on 11/04 (10 days at -1500: -1000
     // within, -500 beyond), 1500 back on 21/04. EF numeri 5000 + 10000 = 15000 at 10%:
     // 1500 / 365 = 4.1096; FF 5000 at 20%: 1000 / 365 = 2.7397; total 6.85.
-    Stato.Conti[1].Fido = 1000;
-    auto& o = Stato.OneriPassivi;
-    o.Per1 = 2;
-    o.Per2 = 1;
-    o.Per6 = 0.5f;
-    o.Per7 = 0.25f;
-    Movimenti({Mov(1, "01/04/2001", "01/04/2001", 500, "U", "N"),
-               Mov(2, "11/04/2001", "11/04/2001", 1000, "U", "N"),
-               Mov(3, "21/04/2001", "21/04/2001", 1500, "E", "N")});
+    ScopertoDiAprile();
     Competenze c = CalcolaInteressi("01/04/2001", "30/04/2001", false);
     EXPECT_DOUBLE_EQ(c.TotaleNumeriDebitori, -20000);
     EXPECT_DOUBLE_EQ(c.TotaleNumeriFuoriFido, -5000);
@@ -185,4 +190,44 @@ TEST_F(CompetenzeTest, CaricoLiberoSuOgniBase) {
                                   C(Format(k.base1, Stato.FormatoImporti), 13) + "    " +
                                   C(Format(k.importo1, Stato.FormatoImporti))));
     }
+}
+
+TEST_F(CompetenzeTest, LaStampaRifaIContiASuoModo) {
+    // A movement on dal: the same interest as on the screen, the rows spaced for paper.
+    Movimenti({Mov(1, "01/01/2001", "01/01/2001", 10000, "E", "N"),
+               Mov(2, "01/03/2001", "01/03/2001", 5000, "E", "N")});
+    Competenze c = CalcolaInteressi("01/01/2001", "31/03/2001", false, true);
+    EXPECT_NEAR(c.InteressiLordi, 26000.0 / 365, 1e-9);
+    EXPECT_TRUE(
+        HaRiga(c, "      31/12/2000     02,500  " + C("1.040.000,00") + "    " + C("71,23")));
+    EXPECT_TRUE(HaRiga(c, std::string(33, ' ') + "Totale Lordo    " + C("71,23")));
+
+    // None on 01/02: rows 01/02 (28 days on 10000), 01/03 (30 on 15000), 31/03 (31/01 - 31/03 =
+    // -59 days on 15000), 31/01 last: 280000 + 450000 - 885000; the screen has 740000.
+    c = CalcolaInteressi("01/02/2001", "31/03/2001", false, true);
+    EXPECT_DOUBLE_EQ(c.TotaleNumeriCreditori, -155000);
+    EXPECT_TRUE(
+        HaRiga(c, "      31/01/2001     02,500  " + C("-155.000,00") + "    " + C("-10,62")));
+
+    // Debit within and beyond a line of 1000: the numeri of the screen, the excess commission
+    // 500 * 2% and the final 19.85 + 10 not cut.
+    auto& o = Stato.OneriPassivi;
+    ScopertoDiAprile();
+    c = CalcolaInteressi("01/04/2001", "30/04/2001", false, true);
+    CalcolaCosti(c);
+    EXPECT_TRUE(HaRiga(c, " EF   31/03/2001     10,000  " + C("15.000,00") + "    " + C("4,11")));
+    EXPECT_TRUE(HaRiga(c, " FF                  20,000  " + C("5.000,00") + "    " + C("2,74")));
+    EXPECT_TRUE(HaRiga(c, "     02,000    " + C("500,00") + "   " + C("10,00")));
+    EXPECT_TRUE(HaRiga(c, "     SBILANCIO COMPETENZE A DEBITO" + C("29,85")));
+
+    // The first free charge on the debit numeri goes as the second: -(2 * -7300 / 365) * 0.01.
+    o.Descr3 = "Uno";
+    o.Per4 = 2;
+    o.ApplicaDescr3 = "5";
+    c = Competenze{};
+    c.Carta = true;
+    c.FattoreInteresse = 0.01;
+    c.TotaleNumeriDebitori = -7300;
+    CalcolaCosti(c);
+    EXPECT_NEAR(c.VociCosto[2], 0.4, 1e-9);
 }

@@ -3,8 +3,10 @@
 // fills yet, and the lists of all accounts.
 #include "tests/Ambiente.h"
 
+#include "interest/Staffa.h"
 #include "refdata/Causali.h"
 #include "reports/Stampe.h"
+#include "store/Date.h"
 #include "store/Guasto.h"
 #include "store/Testo.h"
 
@@ -213,4 +215,26 @@ TEST_F(StampeTest, UnaDataIllegibileButtaViaLaStampa) {
     EXPECT_EQ(porta.messaggi.back(), "FAILURE 13 Tipo non corrispondente");
     EXPECT_EQ(porta.carta.back(), "{abandoned}");
     EXPECT_FALSE(porta.clessidra);
+}
+
+// The ladder's print: 53 rows fill the first page (its count starts at 1 and breaks at 55) and
+// end with no fill; the 54th opens the second, filled from 1 to 47.
+TEST_F(StampeTest, LaStaffaVoltaPaginaAl54Riga) {
+    for (int righe : {53, 54}) {
+        porta.carta.clear();
+        // One movement a day from dal: the rows are the day before and each of them.
+        Stato.NumMovimenti = static_cast<short>(righe - 1);
+        for (int i = 1; i < righe; ++i)
+            Stato.Movimenti[i] =
+                Mov(i, "01/01/2001", TestoDaGiorno(GiornoCalendario("01/01/2001") + i - 1), 5, "E",
+                    "S");
+        app->Staffa.dal.SetText("01/01/2001");
+        app->Staffa.al.SetText(Stato.Movimenti[righe - 1].DataValuta.Testo());
+        StampaStaffa();
+        SCOPED_TRACE(std::to_string(righe));
+        EXPECT_EQ(Pagine(), righe == 53 ? 1 : 2);
+        EXPECT_EQ(Riempimento(), righe == 53 ? 0 : 46);
+        EXPECT_EQ(Righe().back(),
+                  Sp(43) + "Pagina " + std::to_string(Pagine()) + Sp(17) + ".....fine stampa");
+    }
 }
