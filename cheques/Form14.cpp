@@ -3,6 +3,7 @@
 #include "cheques/Form15.h"
 #include "cheques/Form3.h"
 #include "shell/Applicazione.h"
+#include "shell/Colori.h"
 #include "store/Date.h"
 #include "store/Stato.h"
 #include "store/Testo.h"
@@ -12,6 +13,7 @@
 Form14::Form14() {
     S.Figlio = false;
     List1.Sorted = true;
+    S.Load = [this] { ColoriElenchi({&List1}); };
     Command3D2.Enabled = false;
     // Opened from Form9 the list only shows: a pick does nothing but close it.
     auto scegli = [this] {

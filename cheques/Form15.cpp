@@ -6,6 +6,7 @@
 #include "ledger/Registro.h"
 #include "refdata/Valute.h"
 #include "shell/Applicazione.h"
+#include "shell/Colori.h"
 #include "store/Date.h"
 #include "store/FileRecord.h"
 #include "store/Formato.h"
@@ -104,6 +105,7 @@ void RegistraAssegno(Form15& f, const std::string& annullato) {
 
 Form15::Form15() {
     List1.Sorted = true;
+    S.Load = [this] { ColoriElenchi({&List1}); };
     List1.ToolTipText = "elenco assegni del carnet selezionato";
     traente.MaxLength = 30;
     NoteAss.MaxLength = 30;
