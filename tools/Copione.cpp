@@ -612,8 +612,16 @@ void Interprete::Messages() {
 
 void Interprete::Paper() {
     FineRiga();
-    for (const std::string& c : piattaforma.carta)
-        uscita << c << '\n';
+    const auto& carta = piattaforma.carta;
+    for (std::size_t i = 0; i < carta.size();) {
+        std::size_t fine = i + 1;
+        while (fine < carta.size() && carta[fine] == carta[i]) ++fine;
+        // The fill of a page is a run of equal lines: one line tells how many.
+        if (fine - i >= 3) uscita << '{' << fine - i << " times} ";
+        else fine = i + 1;
+        uscita << carta[i] << '\n';
+        i = fine;
+    }
     piattaforma.carta.clear();
 }
 

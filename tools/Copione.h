@@ -37,7 +37,8 @@
 //   print REF|SCREEN|focus   a text, a caption, the lines of a list; options and check boxes
 //                            add " on" or " off"
 //   state REF|SCREEN         enabled|disabled visible|hidden; unloaded|hidden|shown|modal
-//   messages, paper          what was shown, or printed, since the last time
+//   messages, paper          what was shown, or printed, since the last time; three or more
+//                            equal printed lines in a row come as one: {N times} LINE
 //   records KIND FILE        the records of a file, one a line: its number, then its fields in
 //                            disk order between bars (texts with their padding, numbers as
 //                            written); KIND is Intero (a counter), Movimento, Totali,
