@@ -44,9 +44,11 @@ TEST_F(CausaliTest, IlDoppioneSiRiconosceSoloSulTestoEsattoDelCodice) {
 // Each line of List1, in its sorted order, writes every slot of its code at the line's record,
 // the last slot last; each record keeps its old number and the old ones stay behind the count.
 TEST_F(CausaliTest, LaManutenzioneScriveLeRigheScelteNelLoroOrdineEChiudeIlProgramma) {
-    for (const auto& [codice, descrizione] :
-         {std::pair{"ZZ", "Varie"}, {"MA", "Mance"}, {"BO", "Bonifico"}, {"VS", "Versamento"},
-          {"VS ", "Versamento bis"}})
+    for (const auto& [codice, descrizione] : {std::pair{"ZZ", "Varie"},
+                                              {"MA", "Mance"},
+                                              {"BO", "Bonifico"},
+                                              {"VS", "Versamento"},
+                                              {"VS ", "Versamento bis"}})
         Conferma(codice, descrizione);
     const Byte prima = ContenutoFile(programma / "Causali.DAT");
     ManutCaus& m = app->ManutCaus;
@@ -62,7 +64,7 @@ TEST_F(CausaliTest, LaManutenzioneScriveLeRigheScelteNelLoroOrdineEChiudeIlProgr
                               "[] CHIUSURA PROGRAMMA -> OK"}));
     EXPECT_TRUE(porta.terminato);
     EXPECT_EQ(LeggiContatore((programma / "RecCausa.dat").string()), 6);
-    const char* attese[] = {"6 BO|Bonifico|NE0", "3 GC|GIROCONTO|SU1", "5 MA|Mance|NE0",
+    const char* attese[] = {"6 BO|Bonifico|NE0",       "3 GC|GIROCONTO|SU1",      "5 MA|Mance|NE0",
                             "8 VS|Versamento bis|NE0", "8 VS|Versamento bis|NE0", "4 ZZ|Varie|NE0"};
     for (long n = 1; n <= 6; ++n) {
         const RecCausale c = SuDisco(n);

@@ -25,7 +25,7 @@ TEST_F(ContiTest, NumeriDoppiConfrontatiSenzaIBlankADestra) {
                                 "dati inseriti non possono essere salvati. Cambiare il nr. di "
                                 "conto e riprovare. -> OK";
     // In order: each accepted number joins the table for the rows after it.
-    const std::pair<std::string, bool> casi[] = {{"12", true},  {"12", false},  {"12 ", false},
+    const std::pair<std::string, bool> casi[] = {{"12", true},  {"12", false}, {"12 ", false},
                                                  {" 12", true}, {"123", true}, {"123  ", false}};
     Clic(Finestra().NuovoConto);
     short attesi = 0;
@@ -33,8 +33,8 @@ TEST_F(ContiTest, NumeriDoppiConfrontatiSenzaIBlankADestra) {
         SCOPED_TRACE('"' + numero + '"');
         NuovoConto(numero);
         attesi += accettato;
-        EXPECT_EQ(Messaggi(), accettato ? std::vector<std::string>{}
-                                        : std::vector<std::string>{rifiuto});
+        EXPECT_EQ(Messaggi(),
+                  accettato ? std::vector<std::string>{} : std::vector<std::string>{rifiuto});
         EXPECT_EQ(Stato.NumConti, attesi);
     }
     EXPECT_EQ(LeggiContatore((dati / "RecConti.dat").string()), 3);
@@ -54,9 +54,8 @@ TEST_F(ContiTest, IlFidoSiScriveInEuroESiMostraAlCambio) {
     Clic(F2().esci);
     app->Form22.S.Show();
     // Balance, credit line and what is available, 15 characters each.
-    EXPECT_EQ(app->Form22.Totali.Text(),
-              std::string(16, ' ') + "Totali " + std::string(14, ' ') + "0       1.936.270" +
-                  "       1.936.270 ");
+    EXPECT_EQ(app->Form22.Totali.Text(), std::string(16, ' ') + "Totali " + std::string(14, ' ') +
+                                             "0       1.936.270" + "       1.936.270 ");
     Seleziona(app->Form22.List1, "          12", true);
     EXPECT_EQ(app->Form10.Fido.Text(), "1.936.270");
 }
