@@ -55,7 +55,7 @@ TEST_F(ContiTest, IlFidoSiScriveInEuroESiMostraAlCambio) {
     app->Form22.S.Show();
     // Balance, credit line and what is available, 15 characters each.
     EXPECT_EQ(app->Form22.Totali.Text(), std::string(16, ' ') + "Totali " + std::string(14, ' ') +
-                                             "0       1.936.270" + "       1.936.270 ");
+                                             "0       1.936.270       1.936.270 ");
     Seleziona(app->Form22.List1, "          12", true);
     EXPECT_EQ(app->Form10.Fido.Text(), "1.936.270");
 }
