@@ -82,12 +82,15 @@ TEST_F(ImmissioneTest, RigaRifiutata) {
 
 TEST_F(ImmissioneTest, ImportoDivisoPerIlCambioEMostratoMoltiplicato) {
     Stato.Cambio = 1936.27;
+    Stato.Conti[1].Fido = 1000;
     Riga("01/07/2001", "01/07/2001", "VS", "1.000.000");
     f().OK.Clicca();
     // No rounding of the stored quotient.
     EXPECT_EQ(Leggi(".MOV").at(0).IMPORTO, 1000000 / 1936.27);
     EXPECT_TRUE(f().ElencoMovim.List(0).ends_with("   1.000.000,00"));
     EXPECT_EQ(app->MDIForm1.Saldi(4).Text(), "1.000.000,00");
+    // The credit line, 1000 Euro, is 1,936,270 lire over the balance by operation date.
+    EXPECT_EQ(app->MDIForm1.Saldi(5).Text(), "2.936.270,00");
     f().ElencoMovim.SetListIndex(0);
     f().ElencoMovim.DoppioClic();
     EXPECT_EQ(f().IMPORTO.Text(), "1.000.000,00");
@@ -139,21 +142,4 @@ TEST_F(ImmissioneTest, CambioDellUltimoMovimentoMarcatoNonNeAggiungeUno) {
     EXPECT_EQ(LeggiTotali().SaldoUltimaData, 54.5);
     EXPECT_EQ(f().Del.Text(), "Del");
     EXPECT_EQ(Numeri(Leggi(".Ord")), (std::vector<int>{1, 2, 0}));
-}
-
-// The transfer screen says by the flag that it was left without booking: nothing is stored
-// and the next movement takes the same number.
-TEST_F(ImmissioneTest, GirocontoAnnullatoNonMemorizzaNulla) {
-    Stato.NumConti = 2;
-    Stato.FlagOperazione = 1;
-    Riga("02/07/2001", "02/07/2001", "GC", "50");
-    f().OK.Clicca();
-    EXPECT_EQ(Stato.FlagOperazione, 0);
-    NienteMemorizzato();
-    EXPECT_EQ(f().Causale.Text(), "");
-    EXPECT_TRUE(f().DataOper.HaFuoco());
-    EXPECT_FALSE(porta.clessidra);
-    Riga("03/07/2001", "03/07/2001", "VS", "7");
-    f().OK.Clicca();
-    EXPECT_EQ(Numeri(Leggi(".MOV")), (std::vector<int>{1}));
 }
