@@ -57,6 +57,13 @@ TEST_F(CorrezioneTest, RigheCheNonSonoMovimenti) {
     DoppioClic(1);
     EXPECT_TRUE(porta.messaggi.empty());
     EXPECT_EQ(c().DataOper.Text(), "11/03/2001");
+    // One of five: 8 - 5 is below 5.
+    l().DataOper.SetText("15/03/2001");
+    l().OK.Clicca();
+    DoppioClic(1);
+    EXPECT_EQ(porta.messaggi, (std::vector<std::string>{
+                                  "[Avvertimento] Questa funzione funziona solo se tutti i "
+                                  "movimenti sono inclusi nella lista -> OK"}));
 }
 
 TEST_F(CorrezioneTest, LaRigaDellAssegnoNonContaNelPosto) {
