@@ -66,17 +66,6 @@ TEST_F(CorrezioneTest, RigheCheNonSonoMovimenti) {
                                   "movimenti sono inclusi nella lista -> OK"}));
 }
 
-TEST_F(CorrezioneTest, LaRigaDellAssegnoNonContaNelPosto) {
-    ScriviAssegno(77, "Affitto");
-    Apri({Mov(1, "01/03/2001", "01/03/2001", 500, "U", "S", "AS", "77"),
-          Mov(2, "02/03/2001", "02/03/2001", 20, "E", "S", "VS")});
-    ASSERT_EQ(l().List1.ListCount(), 10);
-    DoppioClic(2);
-    EXPECT_FALSE(c().S.Caricato());
-    DoppioClic(3);
-    EXPECT_EQ(c().NrOper.Text(), "2");
-}
-
 // Each refusal of OK in turn, with its message and the focus; nothing is written.
 TEST_F(CorrezioneTest, ConfermaControllaDateEImporto) {
     Apri();

@@ -54,6 +54,7 @@ TEST_F(Form9Test, OrdineDelleListeEDiOrd) {
     f().Command2.Clicca();
     EXPECT_EQ(NumeriInLista(f().elencoValuta), (std::vector<int>{5, 6, 4, 3, 2, 1, 7}));
     EXPECT_EQ(Date(), "15/02/2000-05/01/2002");
+    EXPECT_EQ(f().Label25.Text(), "Elenco Movimenti per data Valuta");
     EXPECT_TRUE(f().elencoValuta.List(4).ends_with(" 20,00 *"));
 
     // A new movement goes into the list on view only, and .Ord follows ElencoMovim, which
