@@ -90,14 +90,6 @@ TEST_F(ElencoTest, LaListaLeggeOrdConIlDettaglioDegliAssegni) {
     EXPECT_EQ(app->Form20.NrOper.Text(), "3");
 }
 
-// A date of the selection that the calendar can't read fails after the carried line.
-TEST_F(ElencoTest, DataDellaSelezioneNonValida) {
-    Apri({Mov(1, "01/03/2001", "01/03/2001", 40, "E", "S")});
-    l().DataOper.SetText("31/02/2001");
-    EXPECT_EQ(NumeroGuasto([&] { l().OK.Clicca(); }), 13);
-    EXPECT_EQ(l().List1.ListCount(), 1);
-}
-
 // The print takes its selection from the list while the flag is up.
 TEST_F(ElencoTest, StampaConLaSelezioneDellaLista) {
     Apri({Mov(1, "01/03/2001", "01/03/2001", 40, "E", "S")});

@@ -19,41 +19,20 @@ std::array<double, 4> Saldi() {
 }
 } // namespace
 
-// 23/06/2001: 732366 + 159 + 23 = 732548; 25/06/2001: 732550. The description is cut to 20
-// characters, "Versamento contanti ", trailing blank included; the amount to 15 columns.
+// 25/06/2001: 732366 + 159 + 25 = 732550. By value date, a movement marked for elimination
+// gets that mark before the one of an aligned movement; from 10000 on a movement's number takes
+// five columns, and only its first four digits are read back.
 TEST_F(RegistroTest, ColonneDellaRiga) {
-    const struct {
-        RecMovimento m;
-        bool perValuta;
-        double cambio;
-        const char* formato;
-        std::string attesa;
-    } casi[] = {
-        // Aligned: marked; by value date and marked for elimination: that mark first.
-        {Mov(3, "23/06/2001", "25/06/2001", 1234.5, "U", "N", "PR", "", "S"), true, 1,
-         "#,###,###,##0.00",
-         " 732550  23/06/2001 25/06/2001 0003 Prelievo              N   U                  "
-         "1.234,50 * *"},
-        // Shown times the rate: 1,000,000 lire.
-        {Mov(7, "01/01/2001", "01/01/2001", 1000000 / 1936.27, "E", "S"), false, 1936.27,
-         "#,###,###,##0",
-         " 732367  01/01/2001 01/01/2001 0007 Versamento contanti   S   E                 "
-         "1.000.000"},
-        {Mov(10000, "01/01/2001", "01/01/2001", 1, "E", "S"), false, 1, "#,###,###,##0.00",
-         " 732367  01/01/2001 01/01/2001 10000 Versamento contanti   S   E                  "
-         "    1,00"},
-    };
-    for (const auto& c : casi) {
-        SCOPED_TRACE(c.attesa);
-        Stato.Cambio = c.cambio;
-        Stato.FormatoImporti = c.formato;
-        EXPECT_EQ(RigaElenco(c.m, c.perValuta ? c.m.DataValuta : c.m.DataOper,
-                             c.perValuta && c.m.Annullato == "S"),
-                  c.attesa);
-    }
-    // From 10000 on only the first four digits of the number are read back.
-    EXPECT_EQ(NumeroDaRiga(casi[2].attesa), 1000);
-    EXPECT_EQ(NumeroDaRiga(casi[0].attesa), 3);
+    const std::string riga =
+        RigaElenco(Mov(3, "23/06/2001", "25/06/2001", 1234.5, "U", "N", "PR", "", "S"),
+                   "25/06/2001", true);
+    EXPECT_EQ(riga, " 732550  23/06/2001 25/06/2001 0003 Prelievo              N   U          "
+                    "        1.234,50 * *");
+    EXPECT_EQ(NumeroDaRiga(riga), 3);
+    const std::string lunga =
+        RigaElenco(Mov(10000, "01/01/2001", "01/01/2001", 1, "E", "S"), "01/01/2001");
+    EXPECT_EQ(lunga.substr(30, 7), " 10000 ");
+    EXPECT_EQ(NumeroDaRiga(lunga), 1000);
 }
 
 // One movement and what it does to the four balances (aligned, by operation date, by value
