@@ -78,10 +78,6 @@ TEST_F(CorrezioneTest, ConfermaControllaDateEImporto) {
     } casi[] = {
         {"", "13/03/2001", "300", {"BEEP", "[ERRORE] Campo data operazione obbligatorio -> OK"},
          &c().DataOper},
-        {"31/04/2001", "13/03/2001", "300",
-         {"[Errore]  Data Errata; Inserire la data nel formato GGMMAAAA immettendo lo zero "
-          "davanti ai numeri con una sola cifra. -> OK"},
-         &c().DataOper},
         {"13/03/2001", "", "300", {"BEEP", "[ERRORE] Campo data Valuta obbligatorio -> OK"},
          &c().DataValuta},
         {"13/03/2001", "13/03/2001", "", {"[] Campo Importo obbligatorio -> OK"}, &c().IMPORTO},

@@ -97,8 +97,8 @@ TEST_F(ElencoTest, StampaConLaSelezioneDellaLista) {
     l().DataFinale.SetText("03/04/2001");
     l().PulStampe.Clicca();
     EXPECT_EQ(Stato.FlagOperazione, 0);
-    EXPECT_NE(std::find_if(porta.carta.begin(), porta.carta.end(), [](const std::string& r) {
-        return r.find("dal 02/01/2001 al 03/04/2001  Causali selezionate:  TUTTE") !=
-               std::string::npos;
-    }), porta.carta.end());
+    bool stampata = false;
+    for (const std::string& r : porta.carta)
+        stampata |= r.find("dal 02/01/2001 al 03/04/2001  Causali selezionate:  TUTTE") != r.npos;
+    EXPECT_TRUE(stampata);
 }

@@ -3,9 +3,6 @@
 #include "ledger/Immissione.h"
 #include "ledger/Registro.h"
 
-#include <string>
-#include <vector>
-
 // Today is 05/07/2001 throughout. The typing of a movement and its change are the scripts
 // immissione_*; here the refusals and the cases the scripts don't meet.
 
@@ -15,8 +12,6 @@ protected:
         AmbienteConto::SetUp();
         Causale(1, "VS", "Versamento contanti in banca", "S", "E");
         Causale(2, "PR", "Prelievo", "N", "U");
-        Causale(3, "GC", "GIROCONTO", "S", "U");
-        Stato.NumCausali = 3;
         f().S.Show();
     }
 
@@ -32,12 +27,6 @@ protected:
             campo->SetText(testo);
         }
         f().NrDoc.SetFocus();
-    }
-
-    void NienteMemorizzato() {
-        EXPECT_EQ(Stato.NumMovimenti, 0);
-        EXPECT_EQ(LeggiContatore(File(".MOR")), 0);
-        EXPECT_EQ(f().ElencoMovim.ListCount(), 0);
     }
 };
 
@@ -75,7 +64,8 @@ TEST_F(ImmissioneTest, RigaRifiutata) {
                                     : data == &f().DataOper ? c.dataOper : c.dataValuta);
         // Past the dates the hourglass is on, and it stays until the next action.
         EXPECT_EQ(porta.clessidra, *c.importo == 0);
-        NienteMemorizzato();
+        EXPECT_EQ(LeggiContatore(File(".MOR")), 0);
+        EXPECT_EQ(f().ElencoMovim.ListCount(), 0);
     }
 }
 
