@@ -92,7 +92,6 @@ TEST_F(CorrezioneTest, ConfermaControllaDateEImporto) {
         EXPECT_EQ(porta.messaggi, caso.messaggi);
         EXPECT_TRUE(caso.fuoco->HaFuoco());
     }
-    EXPECT_EQ(c().DataOper.Text(), "13/03/2001");
     EXPECT_EQ(Leggi(".MOV")[2].IMPORTO, 300);
     EXPECT_TRUE(c().S.Mostrato());
 }

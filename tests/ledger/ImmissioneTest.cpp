@@ -109,7 +109,6 @@ TEST_F(ImmissioneTest, CambioDellUltimoMovimentoMarcato) {
     EXPECT_EQ(LeggiContatore(File(".MOR")), 2);
     EXPECT_DOUBLE_EQ(Leggi(".MOV").at(1).IMPORTO, 45.5);
     EXPECT_EQ(Leggi(".MOV").at(1).Annullato, "N");
-    EXPECT_EQ(f().Del.Text(), "Del");
     // 100 - 45.50, aligned -45.50.
     EXPECT_EQ(LeggiTotali().SaldoAllineamento, -45.5);
     EXPECT_EQ(LeggiTotali().SaldoUltimaData, 54.5);
