@@ -1,8 +1,7 @@
 #include "tests/Ambiente.h"
 
-// Today is 05/07/2001; amounts with two decimals. The movements are entered in date order, so
-// that a line's place in Form11 is also the movement's record in .MOV. The correction's flow is
-// the script correzione_movimento; here which lines open it, and the rate.
+// Today is 05/07/2001. The movements are entered in date order, so that a line's place in Form11
+// is also their record in .MOV. The flow is a script; here which lines open it, and the rate.
 
 class CorrezioneTest : public AmbienteConto {
 protected:
@@ -50,6 +49,8 @@ TEST_F(CorrezioneTest, RigheCheNonSonoMovimenti) {
         EXPECT_TRUE(porta.messaggi.empty());
         EXPECT_FALSE(c().S.Caricato());
     }
+    DoppioClic(5);
+    EXPECT_EQ(c().NrOper.Text(), "5");
     // Four of five listed: 11 - 5 is not below 5. The first line shows movement 2, but its
     // place gives record 1 of .Ord.
     l().DataOper.SetText("12/03/2001");
