@@ -19,9 +19,9 @@ protected:
 
     // The line filled as the user fills it: the causale is checked as the amount takes the
     // focus, before the amount is typed.
-    void Riga(const std::string& dataOper, const std::string& dataValuta,
-              const std::string& causale, const std::string& importo) {
-        for (auto [campo, testo] : {std::pair{&f().DataOper, dataOper}, {&f().DataValuta, dataValuta},
+    void Riga(const std::string& oper, const std::string& valuta, const std::string& causale,
+              const std::string& importo) {
+        for (auto [campo, testo] : {std::pair{&f().DataOper, oper}, {&f().DataValuta, valuta},
                                     {&f().Causale, causale}, {&f().IMPORTO, importo}}) {
             campo->SetFocus();
             campo->SetText(testo);
