@@ -1,28 +1,19 @@
 #include "tests/Ambiente.h"
 
-#include "store/Testo.h"
-
-// Today is 05/07/2001; amounts with two decimals at the rate 1. The movements are entered in
-// date order, so that a line's place in Form11 is also the movement's record in .MOV.
-
-namespace {
-std::vector<RecMovimento> Cinque() {
-    return {
-        Mov(1, "10/01/2001", "10/01/2001", 1000, "E", "N", "VS"),
-        Mov(2, "15/02/2001", "16/02/2001", 200, "U", "S", "PR", "7"),
-        Mov(3, "20/03/2001", "20/03/2001", 300, "E", "S", "VS"),
-        Mov(4, "10/04/2001", "10/04/2001", 50, "U", "N", "PR"),
-        Mov(5, "05/05/2001", "05/05/2001", 25.5, "E", "S", "VS"),
-    };
-}
-} // namespace
+// Today is 05/07/2001. The movements are entered in date order, so that a line's place in Form11
+// is also their record in .MOV. The flow is a script; here which lines open it, and the rate.
 
 class CorrezioneTest : public AmbienteConto {
 protected:
     Form11& l() { return app->Form11; }
     Form20& c() { return app->Form20; }
 
-    void Apri(const std::vector<RecMovimento>& movimenti) {
+    // Five movements, or the ones given, with the list of all of them on view.
+    void Apri(std::vector<RecMovimento> movimenti = {}) {
+        if (movimenti.empty())
+            for (int n = 1; n <= 5; ++n)
+                movimenti.push_back(Mov(n, "1" + std::to_string(n) + "/03/2001",
+                                        "1" + std::to_string(n) + "/03/2001", 100 * n, "E", "S"));
         ScriviMovimenti(movimenti);
         app->Form9.S.Show();
         l().S.Show();
@@ -31,12 +22,6 @@ protected:
     void DoppioClic(int riga) {
         l().List1.SetListIndex(riga);
         l().List1.DoppioClic();
-    }
-
-    void Filtra(const std::string& dal, const std::string& al) {
-        l().DataOper.SetText(dal);
-        l().DataFinale.SetText(al);
-        l().OK.Clicca();
     }
 };
 
@@ -52,81 +37,62 @@ TEST_F(CorrezioneTest, ImportoMostratoNellaValutaInUsoEMemorizzatoInEuro) {
     EXPECT_EQ(Leggi(".MOV")[0].IMPORTO, 150);
 }
 
-TEST_F(CorrezioneTest, ListaAppenaFiltrataPassaEPrendeIlRecordDelPosto) {
-    Apri(Cinque());
-    // Four of five: 11 - 5 is not below 5. The first line shows movement 2, but its place
-    // gives record 1 of .Ord.
-    Filtra("01/02/2001", "05/05/2001");
-    ASSERT_EQ(l().List1.List(1).substr(0, 10), "15/02/2001");
+// Five movements: lines 1 to 5, then the rule (6), the sum not listed (7), the rule (8), the
+// balance (9), the count (10) and the blank line (11); the carried line and those after the
+// movements open nothing and say nothing.
+TEST_F(CorrezioneTest, RigheCheNonSonoMovimenti) {
+    Apri();
+    ASSERT_EQ(l().List1.ListCount(), 12);
+    for (int riga : {0, 6, 7, 9, 10, 11}) {
+        SCOPED_TRACE(riga);
+        DoppioClic(riga);
+        EXPECT_TRUE(porta.messaggi.empty());
+        EXPECT_FALSE(c().S.Caricato());
+    }
+    DoppioClic(5);
+    EXPECT_EQ(c().NrOper.Text(), "5");
+    // Four of five listed: 11 - 5 is not below 5. The first line shows movement 2, but its
+    // place gives record 1 of .Ord.
+    l().DataOper.SetText("12/03/2001");
+    l().OK.Clicca();
     DoppioClic(1);
     EXPECT_TRUE(porta.messaggi.empty());
-    EXPECT_EQ(c().NrOper.Text(), "1");
-    EXPECT_EQ(c().DataOper.Text(), "10/01/2001");
+    EXPECT_EQ(c().DataOper.Text(), "11/03/2001");
+    // One of five: 8 - 5 is below 5.
+    l().DataOper.SetText("15/03/2001");
+    l().OK.Clicca();
+    DoppioClic(1);
+    EXPECT_EQ(porta.messaggi, (std::vector<std::string>{
+                                  "[Avvertimento] Questa funzione funziona solo se tutti i "
+                                  "movimenti sono inclusi nella lista -> OK"}));
 }
 
-struct CasoRigaInerte {
-    const char* nome;
-    int riga;
-};
-
-class RigaInerteTest : public CorrezioneTest,
-                       public ::testing::WithParamInterface<CasoRigaInerte> {};
-
-// Five movements: lines 1 to 5, then the rule (6), the sum not listed (7), the rule (8), the
-// balance (9), the count (10) and the blank line (11).
-INSTANTIATE_TEST_SUITE_P(Correzione, RigaInerteTest,
-                         ::testing::Values(CasoRigaInerte{"riporto", 0},
-                                           CasoRigaInerte{"riga_di_trattini", 6},
-                                           CasoRigaInerte{"non_elencati", 7},
-                                           CasoRigaInerte{"saldo_contabile", 9},
-                                           CasoRigaInerte{"conteggio", 10},
-                                           CasoRigaInerte{"riga_vuota", 11}),
-                         [](const auto& info) { return std::string(info.param.nome); });
-
-TEST_P(RigaInerteTest, NessunaCorrezioneNessunMessaggio) {
-    Apri(Cinque());
-    ASSERT_EQ(l().List1.ListCount(), 12);
-    DoppioClic(GetParam().riga);
-    EXPECT_TRUE(porta.messaggi.empty());
-    EXPECT_FALSE(c().S.Caricato());
-}
-
-TEST_F(CorrezioneTest, LaRigaDellAssegnoNonContaNelPosto) {
-    ScriviAssegno(77, "Affitto");
-    Apri({Mov(1, "01/03/2001", "01/03/2001", 500, "U", "S", "AS", "77"),
-          Mov(2, "02/03/2001", "02/03/2001", 20, "E", "S", "VS")});
-    ASSERT_EQ(l().List1.ListCount(), 10);
-    DoppioClic(2);
-    EXPECT_FALSE(c().S.Caricato());
-    DoppioClic(3);
-    EXPECT_EQ(c().NrOper.Text(), "2");
-    EXPECT_EQ(c().DataOper.Text(), "02/03/2001");
-}
-
+// Each refusal of OK in turn, with its message and the focus; nothing is written.
 TEST_F(CorrezioneTest, ConfermaControllaDateEImporto) {
-    Apri(Cinque());
+    Apri();
     DoppioClic(3);
-    c().DataOper.SetText("");
-    c().OK.Clicca();
-    c().DataOper.SetText("31/04/2001");
-    c().OK.Clicca();
-    EXPECT_EQ(c().DataOper.Text(), "__/__/____");
-    EXPECT_TRUE(c().DataOper.HaFuoco());
-    c().DataOper.SetText("20/03/2001");
-    c().DataValuta.SetText("");
-    c().OK.Clicca();
-    c().DataValuta.SetText("20/03/2001");
-    c().IMPORTO.SetText("");
-    c().OK.Clicca();
-    EXPECT_TRUE(c().IMPORTO.HaFuoco());
-    EXPECT_EQ(porta.messaggi,
-              (std::vector<std::string>{
-                  "BEEP", "[ERRORE] Campo data operazione obbligatorio -> OK",
-                  "[Errore]  Data Errata; Inserire la data nel formato GGMMAAAA immettendo lo "
-                  "zero davanti ai numeri con una sola cifra. -> OK",
-                  "BEEP", "[ERRORE] Campo data Valuta obbligatorio -> OK",
-                  "[] Campo Importo obbligatorio -> OK"}));
-    // Nothing was written.
+    const char* vuota = "__/__/____";
+    const struct {
+        const char *dataOper, *dataValuta, *importo;
+        std::vector<std::string> messaggi;
+        Controllo* fuoco;
+    } casi[] = {
+        {"", "13/03/2001", "300", {"BEEP", "[ERRORE] Campo data operazione obbligatorio -> OK"},
+         &c().DataOper},
+        {"13/03/2001", "", "300", {"BEEP", "[ERRORE] Campo data Valuta obbligatorio -> OK"},
+         &c().DataValuta},
+        {"13/03/2001", "13/03/2001", "", {"[] Campo Importo obbligatorio -> OK"}, &c().IMPORTO},
+    };
+    for (const auto& caso : casi) {
+        SCOPED_TRACE(caso.messaggi.back());
+        c().DataOper.SetText(*caso.dataOper ? caso.dataOper : vuota);
+        c().DataValuta.SetText(*caso.dataValuta ? caso.dataValuta : vuota);
+        c().IMPORTO.SetText(caso.importo);
+        porta.messaggi.clear();
+        c().OK.Clicca();
+        EXPECT_EQ(porta.messaggi, caso.messaggi);
+        EXPECT_TRUE(caso.fuoco->HaFuoco());
+    }
     EXPECT_EQ(Leggi(".MOV")[2].IMPORTO, 300);
     EXPECT_TRUE(c().S.Mostrato());
 }
