@@ -1,24 +1,12 @@
 // Interest, commissions and charges worked out by hand. Divisor 1 and years of 365 days unless a
 // case says otherwise, so numeri are balance * days and the interest factor is 0.01.
-#include "tests/Ambiente.h"
+#include "tests/interest/Conto.h"
 
 #include "interest/Competenze.h"
 #include "interest/Staffa.h"
 #include "store/Formato.h"
 
 #include <numeric>
-
-namespace {
-template <class Righe> bool Ha(const Righe& righe, const std::string& riga) {
-    return std::find(righe.begin(), righe.end(), riga) != righe.end();
-}
-std::string C(const std::string& s, std::size_t n = 16) {
-    return std::string(n - s.size(), ' ') + s;
-}
-RecMovimento M(const char* data, double importo, const char* dA) {
-    return Mov(1, data, data, importo, dA, "N");
-}
-} // namespace
 
 struct CompetenzeTest : AmbienteConto {
     void SetUp() override {
@@ -31,11 +19,6 @@ struct CompetenzeTest : AmbienteConto {
         Stato.TassiDebitori.PerD1 = 10;
         Stato.TassiDebitori.PerD6 = 20;
         Stato.OneriPassivi.Per3 = 27;
-    }
-    void Movimenti(const std::vector<RecMovimento>& m) {
-        Stato.NumMovimenti = static_cast<short>(m.size());
-        for (std::size_t i = 0; i < m.size(); ++i)
-            Stato.Movimenti[i + 1] = m[i];
     }
     // 10000 in on 01/01, 5000 more on 01/03. To 31/03, rows 31/12 (1 day on 0), 01/01 (59 days on
     // 10000: 590000), 01/03 (30 days on 15000: 450000), 31/03: 1040000.
@@ -131,7 +114,7 @@ TEST_F(CompetenzeTest, SpeseFisseEScritture) {
     Stato.Causali[1].SoggettoCosto = "1";
     Stato.Causali[2].SoggettoCosto = "0";
     Movimenti({M("01/10/2001", 100, "E"), M("02/10/2001", 100, "E"), M("03/10/2001", 100, "E"),
-               Mov(4, "04/10/2001", "04/10/2001", 50, "U", "N", "PR")});
+               M("04/10/2001", 50, "U", "N", "PR")});
     auto& s = Stato.SpeseVarie;
     s.IMPORTO1 = 5;
     s.Frequenza1 = "0";

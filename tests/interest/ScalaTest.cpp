@@ -1,25 +1,14 @@
 // Ladders worked out by hand: rows, days, numeri, excess rows and closing rows.
-#include "tests/Ambiente.h"
+#include "tests/interest/Conto.h"
 
 #include "interest/Scala.h"
 
 namespace {
-std::string C(const std::string& importo) {
-    return std::string(16 - importo.size(), ' ') + importo;
-}
-// A row: debit numeri right after the days, credit numeri one column further.
-std::string Riga(const char* inizio, const std::string& data, const std::string& saldo,
-                 const std::string& gg, const std::string& numeri, bool avere) {
+// A row: a negative balance's numeri right after the days, the others one column further.
+std::string R(const std::string& data, const std::string& saldo, const std::string& gg,
+              const std::string& numeri, const char* inizio = "   ") {
     return inizio + (" " + data) + "  " + C(saldo) + " " + std::string(4 - gg.size(), ' ') + gg +
-           " " + (avere ? std::string(17, ' ') : "") + C(numeri);
-}
-std::string Avere(const std::string& d, const std::string& s, const std::string& g,
-                  const std::string& n) {
-    return Riga("   ", d, s, g, n, true);
-}
-std::string Dare(const std::string& d, const std::string& s, const std::string& g,
-                 const std::string& n, const char* inizio = "   ") {
-    return Riga(inizio, d, s, g, n, false);
+           " " + (saldo[0] == '-' ? "" : std::string(17, ' ')) + C(numeri);
 }
 // The rows, then the closing ones; the overdraft ones only when there is one.
 std::vector<std::string> Chiusura(std::vector<std::string> r, const std::string& finale,
@@ -32,11 +21,6 @@ std::vector<std::string> Chiusura(std::vector<std::string> r, const std::string&
     if (!scoperto.empty())
         r.insert(r.end(), {linea, " massimo scoperto            Lire     " + C(scoperto)});
     return r;
-}
-
-// A movement whose value date is its operation date.
-RecMovimento M(const char* data, double importo, const char* dA, const char* sospeso = "N") {
-    return Mov(1, data, data, importo, dA, sospeso);
 }
 
 struct Periodo {
@@ -64,13 +48,13 @@ TEST_F(ScalaTest, Scale) {
          {M("15/03/2001", 500, "E"), M("01/04/2001", 300, "U"), M("10/04/2001", 100, "E"),
           M("10/04/2001", 50, "U"), M("20/05/2001", 2000, "U"), M("05/07/2001", 1000, "E")},
          {"01/04/2001", "31/05/2001", false, 1000, 1, 0, 1},
-         Chiusura({Avere("31/03/2001", "500,00", "1", "500,00"),
-                   Avere("01/04/2001", "200,00", "9", "1.800,00"),
-                   Avere("10/04/2001", "250,00", "40", "10.000,00"),
-                   Dare("20/05/2001", "-1.000,00", "11", "11.000,00"),
-                   Dare("20/05/2001", "-750,00", "11", "8.250,00", "EC "),
-                   Dare("31/05/2001", "-1.000,00", "0", "0,00"),
-                   Dare("31/05/2001", "-750,00", "0", "0,00", "EC ")},
+         Chiusura({R("31/03/2001", "500,00", "1", "500,00"),
+                   R("01/04/2001", "200,00", "9", "1.800,00"),
+                   R("10/04/2001", "250,00", "40", "10.000,00"),
+                   R("20/05/2001", "-1.000,00", "11", "11.000,00"),
+                   R("20/05/2001", "-750,00", "11", "8.250,00", "EC "),
+                   R("31/05/2001", "-1.000,00", "0", "0,00"),
+                   R("31/05/2001", "-750,00", "0", "0,00", "EC ")},
                   "-1.750,00", "19.250,00", "12.300,00", "750,00", "1.750,00")},
         // Only those not pending: the pending 500 before dal still opens, the pending 70 in the
         // period is left out. Fido 0: the overdraft row shows 0 and the EC row all of it.
@@ -78,49 +62,44 @@ TEST_F(ScalaTest, Scale) {
         {"NonSospesiFidoZero",
          {M("15/03/2001", 500, "E", "S"), M("02/04/2001", 70, "E", "S"), M("03/04/2001", 600, "U")},
          {"01/04/2001", "04/04/2001", true, 0, 1, 0, 4},
-         Chiusura({Avere("31/03/2001", "500,00", "1", "0,50"),
-                   Avere("01/04/2001", "500,00", "2", "1,00"),
-                   Avere("03/04/2001", "0,00", "1", "0,00"),
-                   Dare("03/04/2001", "-100,00", "1", "0,10", "EC "),
-                   Avere("04/04/2001", "0,00", "0", "0,00"),
-                   Dare("04/04/2001", "-100,00", "0", "0,00", "EC ")},
-                  "-100,00", "0,10", "1,50", "100,00")},
+         Chiusura(
+             {R("31/03/2001", "500,00", "1", "0,50"), R("01/04/2001", "500,00", "2", "1,00"),
+              R("03/04/2001", "0,00", "1", "0,00"), R("03/04/2001", "-100,00", "1", "0,10", "EC "),
+              R("04/04/2001", "0,00", "0", "0,00"), R("04/04/2001", "-100,00", "0", "0,00", "EC ")},
+             "-100,00", "0,10", "1,50", "100,00")},
         // 03/07 and 25/06 share a date number (June counts from 159); the key text puts 03/07
         // first, so the row of 25/06 follows it with -8 days. dal and al get rows of their own.
         // Numeri: 0 up to 03/07, then 100*-8 = -800, 200*15 = 3000: credit 2200.
         {"GiugnoTraLuglio",
          {M("25/06/2001", 100, "E"), M("03/07/2001", 100, "E")},
          {"20/06/2001", "10/07/2001", false, 0, 1, 0, 1},
-         Chiusura({Avere("19/06/2001", "0,00", "1", "0,00"),
-                   Avere("20/06/2001", "0,00", "13", "0,00"),
-                   Avere("03/07/2001", "100,00", "-8", "-800,00"),
-                   Avere("25/06/2001", "200,00", "15", "3.000,00"),
-                   Avere("10/07/2001", "200,00", "0", "0,00")},
+         Chiusura({R("19/06/2001", "0,00", "1", "0,00"), R("20/06/2001", "0,00", "13", "0,00"),
+                   R("03/07/2001", "100,00", "-8", "-800,00"),
+                   R("25/06/2001", "200,00", "15", "3.000,00"),
+                   R("10/07/2001", "200,00", "0", "0,00")},
                   "200,00", "0,00", "2.200,00", "0,00")},
         // No movement in the period: the carried 100 on dal - 1, dal and al; 1 + 2 days.
         {"SenzaMovimenti",
          {},
          {"01/04/2001", "03/04/2001", false, 0, 1, 100, 1},
-         Chiusura({Avere("31/03/2001", "100,00", "1", "100,00"),
-                   Avere("01/04/2001", "100,00", "2", "200,00"),
-                   Avere("03/04/2001", "100,00", "0", "0,00")},
+         Chiusura({R("31/03/2001", "100,00", "1", "100,00"),
+                   R("01/04/2001", "100,00", "2", "200,00"),
+                   R("03/04/2001", "100,00", "0", "0,00")},
                   "100,00", "0,00", "300,00", "0,00")},
         // Lire at 1936,27 to the Euro: 5 Euro before dal show 9681,35; 10 more on 02/04 make
         // 29044,05. The credit line of 10 Euro is 19362,70: never reached.
         {"Lire",
          {M("15/03/2001", 5, "E"), M("02/04/2001", 10, "E")},
          {"01/04/2001", "03/04/2001", false, 10, 1936.27, 0, 1},
-         Chiusura({Avere("31/03/2001", "9.681,35", "1", "9.681,35"),
-                   Avere("01/04/2001", "9.681,35", "1", "9.681,35"),
-                   Avere("02/04/2001", "29.044,05", "1", "29.044,05"),
-                   Avere("03/04/2001", "29.044,05", "0", "0,00")},
+         Chiusura({R("31/03/2001", "9.681,35", "1", "9.681,35"),
+                   R("01/04/2001", "9.681,35", "1", "9.681,35"),
+                   R("02/04/2001", "29.044,05", "1", "29.044,05"),
+                   R("03/04/2001", "29.044,05", "0", "0,00")},
                   "29.044,05", "0,00", "48.406,75", "0,00")},
     };
     for (const Caso& c : casi) {
         SCOPED_TRACE(c.nome);
-        Stato.NumMovimenti = static_cast<short>(c.movimenti.size());
-        for (std::size_t i = 0; i < c.movimenti.size(); ++i)
-            Stato.Movimenti[i + 1] = c.movimenti[i];
+        Movimenti(c.movimenti);
         Stato.Conti[1].Fido = c.p.fido;
         Stato.Cambio = c.p.cambio;
         Stato.Riporto[1].ImportoRiporto = c.p.riporto;
