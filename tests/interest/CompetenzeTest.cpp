@@ -59,9 +59,6 @@ TEST_F(CompetenzeTest, Creditori) {
          "    15/02/2001      05,000  " + C("450.000,00") + "     " + C("61,64"),
          C("102,05", 13) + "  Totale" + C("27,55", 13)},
         // A year of 360 days: 22500 / 360 = 62.50; 37250 / 360 = 103.47, tax 27.94, net 75.53.
-        {"15/02/2001", 1, "1", 1040000, 37250.0 / 360, 27192.5 / 360,
-         "    15/02/2001      05,000  " + C("450.000,00") + "     " + C("62,50"),
-         C("103,47", 13) + "  Totale" + C("27,94", 13)},
         // Divisor 100: numeri a hundredth, factor 1: the same interest.
         {"15/02/2001", 3, "1", 10400, 37250.0 / 360, 27192.5 / 360,
          "    15/02/2001      05,000  " + C("4.500,00") + "     " + C("62,50"),
@@ -112,7 +109,6 @@ TEST_F(CompetenzeTest, SpeseFisseEScritture) {
     // VS costs, PR doesn't: three VS and one PR in the quarter count 3. Closing 5 yearly, keeping
     // 3 quarterly, 0.5 a movement quarterly, a flat refund of 4 quarterly.
     Stato.Causali[1].SoggettoCosto = "1";
-    Stato.Causali[2].SoggettoCosto = "0";
     Movimenti({M("01/10/2001", 100, "E"), M("02/10/2001", 100, "E"), M("03/10/2001", 100, "E"),
                M("04/10/2001", 50, "U", "N", "PR")});
     auto& s = Stato.SpeseVarie;
@@ -195,7 +191,8 @@ TEST_F(CompetenzeTest, LaStampaRifaIContiASuoModo) {
     ScopertoDiAprile(1000);
     app->Staffa.dal.SetText("01/04/2001");
     app->Staffa.al.SetText("30/04/2001");
-    StampaCompetenze();
+    app->Staffa.List1.Visible = false; // the competences shown: Stampa prints them
+    app->Staffa.Stampa.Clicca();
     const auto& carta = porta.carta;
     EXPECT_TRUE(
         Ha(carta, "| EF   31/03/2001     10,000  " + C("15.000,00") + "    " + C("4,11") + "|"));

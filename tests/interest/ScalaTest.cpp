@@ -2,6 +2,7 @@
 #include "tests/interest/Conto.h"
 
 #include "interest/Scala.h"
+#include "interest/Staffa.h"
 
 namespace {
 // A row: a negative balance's numeri right after the days, the others one column further.
@@ -107,4 +108,32 @@ TEST_F(ScalaTest, Scale) {
         ScalaValute s = CostruisciScala(c.p.dal, c.p.al, c.p.nonSospesi);
         EXPECT_EQ(MostraScala(s, c.p.al), c.righe);
     }
+}
+
+TEST_F(ScalaTest, LaStampaChiudeASuoModo) {
+    // 1500 out on 06/04 against a line of 1000, printed from 03/04 to 10/04: the rows one column
+    // to the right, closing rows worded and placed as the paper has them, blank to line 47.
+    Stato.Conti[1].Fido = 1000;
+    Stato.OpzioniCalcolo.Divisore = 1;
+    Movimenti({M("06/04/2001", 1500, "U")});
+    app->Staffa.dal.SetText("03/04/2001");
+    app->Staffa.al.SetText("10/04/2001");
+    app->Staffa.Stampa.Clicca();
+    const std::string linea = "|" + std::string(87, '-') + "|";
+    const std::vector<std::string> fine = {
+        "| " + R("10/04/2001", "-500,00", "0", "0,00", "EC ") + "|",
+        linea,
+        "|Liq. finale      " + C("-1.500,00") + "|",
+        linea,
+        "|" + std::string(30, ' ') + "Totali   " + C("6.000,00") + " " + C("0,00") + "|",
+        linea,
+        "| massima eccedenza/extra fido  Lire    " + C("500,00") + "|",
+        "| " + std::string(94, '-') + "|",
+        "|     Massimo scoperto          Lire    " + C("1.500,00") + "|"};
+    const auto& carta = porta.carta;
+    auto chiusura = std::search(carta.begin(), carta.end(), fine.begin(), fine.end());
+    ASSERT_NE(chiusura, carta.end());
+    // The count starts at 1 and the six rows make it 7; the closing rows don't count: 47 - 7 = 40
+    // blank lines, and one more before the foot.
+    EXPECT_EQ(std::count(chiusura, carta.end(), "||"), 41);
 }
