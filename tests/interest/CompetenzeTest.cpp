@@ -12,8 +12,6 @@ struct CompetenzeTest : AmbienteConto {
     void SetUp() override {
         AmbienteConto::SetUp();
         Stato.OpzioniCalcolo.Divisore = 1;
-        Stato.OpzioniCalcolo.GiorniCreditori = "2";
-        Stato.OpzioniCalcolo.GiorniDebitori = "2";
         Stato.TassiCreditori.DataC1 = Stato.TassiDebitori.DATAD1 = "01/01/2000";
         Stato.TassiCreditori.PerC1 = 2.5f;
         Stato.TassiDebitori.PerD1 = 10;
@@ -193,13 +191,12 @@ TEST_F(CompetenzeTest, LaStampaRifaIContiASuoModo) {
     app->Staffa.al.SetText("30/04/2001");
     app->Staffa.List1.Visible = false; // the competences shown: Stampa prints them
     app->Staffa.Stampa.Clicca();
-    const auto& carta = porta.carta;
-    EXPECT_TRUE(
-        Ha(carta, "| EF   31/03/2001     10,000  " + C("15.000,00") + "    " + C("4,11") + "|"));
-    EXPECT_TRUE(
-        Ha(carta, "| FF                  20,000  " + C("5.000,00") + "    " + C("2,74") + "|"));
-    EXPECT_TRUE(Ha(carta, "|     02,000    " + C("500,00") + "   " + C("10,00") + "|"));
+    auto stampata = [this](const std::string& riga) { return Ha(porta.carta, "|" + riga + "|"); };
+    EXPECT_TRUE(stampata(" EF   31/03/2001     10,000  " + C("15.000,00") + "    " + C("4,11")));
+    EXPECT_TRUE(stampata(" FF                  20,000  " + C("5.000,00") + "    " + C("2,74")));
+    EXPECT_TRUE(stampata("     02,000    " + C("500,00") + "   " + C("10,00")));
     const std::vector<std::string> fine = {
         "{bold on}", "|     SBILANCIO COMPETENZE A DEBITO" + C("29,85") + "|", "{bold off}"};
-    EXPECT_NE(std::search(carta.begin(), carta.end(), fine.begin(), fine.end()), carta.end());
+    EXPECT_NE(std::search(porta.carta.begin(), porta.carta.end(), fine.begin(), fine.end()),
+              porta.carta.end());
 }

@@ -1,7 +1,6 @@
-// The amounts of the conditions in the currency in use: Form26 shows them multiplied by Cambio,
-// keeps them divided, and prints them multiplied again. Everything else of the screen is shown by
-// the script of the conditions, at rate 1.
-#include "tests/Ambiente.h"
+// Amounts in the currency in use: Form26 shows them by Cambio, keeps them divided, prints them
+// by Cambio again; the rest of the screen has its script, at rate 1.
+#include "tests/interest/Conto.h"
 
 #include "interest/Form26.h"
 #include "interest/StampaCondizioni.h"
@@ -25,8 +24,5 @@ TEST_F(CondizioniTest, ImportiAlCambio) {
     EXPECT_DOUBLE_EQ(scritte.IMPORTO1, 5);
     EXPECT_DOUBLE_EQ(scritte.IMPORTO2, 3.5);
     StampaCondizioni();
-    const auto& carta = porta.carta;
-    EXPECT_NE(std::find(carta.begin(), carta.end(),
-                        "|  Tenuta conto               Lire 7,00  Addebito Annuale|"),
-              carta.end());
+    EXPECT_TRUE(Ha(porta.carta, "|  Tenuta conto               Lire 7,00  Addebito Annuale|"));
 }
