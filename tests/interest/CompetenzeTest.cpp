@@ -51,15 +51,15 @@ TEST_F(CompetenzeTest, Creditori) {
         {"", 1, "2", 1040000, 26000.0 / 365, 52,
          "    31/12/2000      02,500  " + C("1.040.000,00") + "     " + C("71,23"),
          C("0,00", 13) + "  Totale" + C("19,23", 13)},
-        // 5% from 15/02: 01/01's row stays whole at 2.5 (590000 / 365 * 0.025 = 40.41), 01/03's
-        // goes at 5 (450000: 61.64); gross 102.05 is the base, tax 27.55, net 73% = 74.50.
-        {"15/02/2001", 1, "2", 1040000, 37250.0 / 365, 74.5,
-         "    15/02/2001      05,000  " + C("450.000,00") + "     " + C("61,64"),
+        // 5% from 01/03, a row's date: 01/01's row at 2.5 (590000 / 365 * 0.025 = 40.41), 01/03's
+        // at 5 (450000: 61.64); gross 102.05 is the base, tax 27.55, net 73% = 74.50.
+        {"01/03/2001", 1, "2", 1040000, 37250.0 / 365, 74.5,
+         "    01/03/2001      05,000  " + C("450.000,00") + "     " + C("61,64"),
          C("102,05", 13) + "  Totale" + C("27,55", 13)},
         // A year of 360 days: 22500 / 360 = 62.50; 37250 / 360 = 103.47, tax 27.94, net 75.53.
         // Divisor 100: numeri a hundredth, factor 1: the same interest.
-        {"15/02/2001", 3, "1", 10400, 37250.0 / 360, 27192.5 / 360,
-         "    15/02/2001      05,000  " + C("4.500,00") + "     " + C("62,50"),
+        {"01/03/2001", 3, "1", 10400, 37250.0 / 360, 27192.5 / 360,
+         "    01/03/2001      05,000  " + C("4.500,00") + "     " + C("62,50"),
          C("103,47", 13) + "  Totale" + C("27,94", 13)},
     };
     for (const Caso& k : casi) {
@@ -137,7 +137,7 @@ TEST_F(CompetenzeTest, SpeseFisseEScritture) {
 
 TEST_F(CompetenzeTest, CaricoLiberoSuOgniBase) {
     // P = 2 on: gross credit interest 200, debit interest 50, excess 300, credit numeri 36500,
-    // debit numeri -7300, line 1000; year 365, factor 0.01.
+    // debit numeri -7300, line 1000; credit year 360, debit year 365, factor 0.01.
     Stato.Conti[1].Fido = 1000;
     auto& o = Stato.OneriPassivi;
     o.Descr3 = "Uno";
@@ -149,17 +149,20 @@ TEST_F(CompetenzeTest, CaricoLiberoSuOgniBase) {
         double base1, importo1, importo2;
     };
     const Caso casi[] = {
-        {"1", false, 200, 4, 4},          {"2", false, 50, 1, 1},
-        {"3", false, 300, 6, 6},          {"4", false, 36500, 2, 2}, // 2 * 36500 / 365 * 0.01
-        {"6", false, 1300, 26, 26},                                  // (300 + 1000) * 2%
-        {"5", false, -7301, -40.01, 0.4}, // 2 * -7300 / 365 - 0.01; (-40) * -1 * 0.01
-        {"5", true, 7300, 0.4, 0.4},      // paper takes the second's way for both
+        {"1", false, 200, 4, 4},
+        {"2", false, 50, 1, 1},
+        {"3", false, 300, 6, 6},
+        {"4", false, 36500, 730.0 / 360, 730.0 / 360}, // 2 * 36500 / 360 (the credit year) * 0.01
+        {"6", false, 1300, 26, 26},                    // (300 + 1000) * 2%
+        {"5", false, -7301, -40.01, 0.4},              // 2 * -7300 / 365 - 0.01; (-40) * -1 * 0.01
+        {"5", true, 7300, 0.4, 0.4},                   // paper takes the second's way for both
     };
     for (const Caso& k : casi) {
         SCOPED_TRACE(k.applica);
         Competenze c;
         c.Carta = k.carta;
         c.FattoreInteresse = 0.01;
+        c.AnnoCreditori = 360;
         c.InteressiLordi = 200;
         c.InteressiDebitori = 50;
         c.MassimaEccedenza = -300;
