@@ -24,12 +24,12 @@ struct CompetenzeTest : AmbienteConto {
         Movimenti({M("01/01/2001", 10000, "E"), M("01/03/2001", 5000, "E")});
     }
     // 500 out on 01/04 (10 days at -500), 1000 more on 11/04 (10 days at -1500), 1500 back on
-    // 21/04; commissions 2% on the excess, 1% on the line, 0.5% and 0.25% beyond it.
+    // 21/04; commissions 2% on the excess, 1.5% on the line, 0.5% and 0.25% beyond it.
     void ScopertoDiAprile(double fido) {
         Stato.Conti[1].Fido = fido;
         auto& o = Stato.OneriPassivi;
         o.Per1 = 2;
-        o.Per2 = 1;
+        o.Per2 = 1.5f;
         o.Per6 = 0.5f;
         o.Per7 = 0.25f;
         Movimenti(
@@ -80,15 +80,21 @@ TEST_F(CompetenzeTest, Creditori) {
 TEST_F(CompetenzeTest, DebitoEntroEOltreIlFido) {
     struct Caso {
         double fido, fuoriFido, interessi, commissione;
-        std::string riga;
+        std::vector<std::string> righe;
     };
     const Caso casi[] = {
         // Fido 1000: EF numeri 5000 + 10000 at 10% = 1500 / 365, FF 5000 at 20% = 1000 / 365:
-        // 6.85. Commission on the largest position: 1000 * 1% = 10, Int(500 * 0.5%) = 2,
-        // Int(500 * 0.25%) = 1: 13. With Int(500 * 2%) = 10 on the excess: Int(29.85) = 29.
-        {1000, -5000, 2500.0 / 365, 13, "     SBILANCIO COMPETENZE A DEBITO" + C("29,00")},
-        // Fido 2000: all 20000 within at 10%, 2000 / 365 = 5.48; 1500 * 1% = 15; 20.48.
-        {2000, 0, 2000.0 / 365, 15, "SBILANCIO COMPETENZE" + std::string(15, ' ') + C("20,48", 15)},
+        // 6.85. Commission on the largest position: 1000 * 1.5% = 15, Int(500 * 0.5%) = 2,
+        // Int(500 * 0.25%) = 1: 18. With Int(500 * 2%) = 10 on the excess: Int(34.85) = 34.
+        {1000, -5000, 2500.0 / 365, 18, {"     SBILANCIO COMPETENZE A DEBITO" + C("34,00")}},
+        // Fido 2000: all 20000 within at 10%, 2000 / 365 = 5.48; 1500 * 1.5% = 22.5, shown cut
+        // on the row of 11/04, the largest; 27.98.
+        {2000,
+         0,
+         2000.0 / 365,
+         22.5,
+         {" EF   11/04/2001    01,500  " + C("1.500,00") + "     " + C("22,00"),
+          "SBILANCIO COMPETENZE" + std::string(15, ' ') + C("27,98", 15)}},
     };
     for (const Caso& k : casi) {
         SCOPED_TRACE(k.fido);
@@ -99,7 +105,8 @@ TEST_F(CompetenzeTest, DebitoEntroEOltreIlFido) {
         EXPECT_DOUBLE_EQ(c.TotaleNumeriFuoriFido, k.fuoriFido);
         EXPECT_NEAR(c.InteressiDebitori, k.interessi, 1e-9);
         EXPECT_DOUBLE_EQ(c.VociCosto[1], k.commissione);
-        EXPECT_TRUE(Ha(c.Righe, k.riga));
+        for (const std::string& riga : k.righe)
+            EXPECT_TRUE(Ha(c.Righe, riga)) << riga;
     }
 }
 
@@ -188,7 +195,7 @@ TEST_F(CompetenzeTest, LaStampaRifaIContiASuoModo) {
         Ha(c.Righe, "      31/01/2001     02,500  " + C("-155.000,00") + "    " + C("-10,62")));
 
     // Debit within and beyond the line, printed: the numeri of the screen, its own spacing, the
-    // excess commission 500 * 2% and the final 19.85 + 10 not cut, bold.
+    // excess commission 500 * 2% and the final 24.85 + 10 not cut, bold.
     ScopertoDiAprile(1000);
     app->Staffa.dal.SetText("01/04/2001");
     app->Staffa.al.SetText("30/04/2001");
@@ -199,7 +206,7 @@ TEST_F(CompetenzeTest, LaStampaRifaIContiASuoModo) {
     EXPECT_TRUE(stampata(" FF                  20,000  " + C("5.000,00") + "    " + C("2,74")));
     EXPECT_TRUE(stampata("     02,000    " + C("500,00") + "   " + C("10,00")));
     const std::vector<std::string> fine = {
-        "{bold on}", "|     SBILANCIO COMPETENZE A DEBITO" + C("29,85") + "|", "{bold off}"};
+        "{bold on}", "|     SBILANCIO COMPETENZE A DEBITO" + C("34,85") + "|", "{bold off}"};
     EXPECT_NE(std::search(porta.carta.begin(), porta.carta.end(), fine.begin(), fine.end()),
               porta.carta.end());
 }
