@@ -155,14 +155,14 @@ TEST_F(CompetenzeTest, CaricoLiberoSuOgniBase) {
         bool carta;
         double base1, importo1, importo2;
     };
+    // Numeri creditori at 2 * 36500 / 360 (the credit year) * 0.01; (300 + 1000) * 2% on the
+    // largest overdraft. On the debit numeri the first takes 2 * -7300 / 365 - 0.01 and shows
+    // the base less 1, the second (-40) * -1 * 0.01; paper takes the second's way for both.
     const Caso casi[] = {
-        {"1", false, 200, 4, 4},
-        {"2", false, 50, 1, 1},
-        {"3", false, 300, 6, 6},
-        {"4", false, 36500, 730.0 / 360, 730.0 / 360}, // 2 * 36500 / 360 (the credit year) * 0.01
-        {"6", false, 1300, 26, 26},                    // (300 + 1000) * 2%
-        {"5", false, -7301, -40.01, 0.4},              // 2 * -7300 / 365 - 0.01; (-40) * -1 * 0.01
-        {"5", true, 7300, 0.4, 0.4},                   // paper takes the second's way for both
+        {"1", false, 200, 4, 4},     {"2", false, 50, 1, 1},
+        {"3", false, 300, 6, 6},     {"4", false, 36500, 730.0 / 360, 730.0 / 360},
+        {"6", false, 1300, 26, 26},  {"5", false, -7301, -40.01, 0.4},
+        {"5", true, 7300, 0.4, 0.4},
     };
     for (const Caso& k : casi) {
         SCOPED_TRACE(k.applica);
