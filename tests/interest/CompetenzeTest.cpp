@@ -1,139 +1,129 @@
-// Interest, commissions and charges worked out by hand. Divisor 1 throughout, so numeri are
-// balance * days and the interest factor is 0.01.
-#include "tests/Ambiente.h"
+// Interest, commissions and charges worked out by hand. Divisor 1 and years of 365 days unless a
+// case says otherwise, so numeri are balance * days and the interest factor is 0.01.
+#include "tests/interest/Conto.h"
 
 #include "interest/Competenze.h"
+#include "interest/Staffa.h"
 #include "store/Formato.h"
 
-#include <algorithm>
-
-namespace {
-bool HaRiga(const Competenze& c, const std::string& riga) {
-    return std::find(c.Righe.begin(), c.Righe.end(), riga) != c.Righe.end();
-}
-std::string C(const std::string& s, std::size_t n = 16) {
-    return std::string(n - s.size(), ' ') + s;
-}
-} // namespace
+#include <numeric>
 
 struct CompetenzeTest : AmbienteConto {
     void SetUp() override {
         AmbienteConto::SetUp();
-        auto& o = Stato.OpzioniCalcolo;
-        o.Divisore = 1;
-        o.GiorniCreditori = "2";
-        o.GiorniDebitori = "2";
-        auto& tc = Stato.TassiCreditori;
-        tc.DataC1 = "01/01/2000";
-        tc.PerC1 = 2.5f;
-        tc.DataC2 = tc.DataC3 = tc.DataC4 = tc.DataC5 = "__/__/____";
-        auto& td = Stato.TassiDebitori;
-        td.DATAD1 = "01/01/2000";
-        td.PerD1 = 10;
-        td.PerD6 = 20;
-        td.DATAD2 = td.DATAD3 = td.DATAD4 = td.DATAD5 = "__/__/____";
+        Stato.OpzioniCalcolo.Divisore = 1;
+        Stato.TassiCreditori.DataC1 = Stato.TassiDebitori.DATAD1 = "01/01/2000";
+        Stato.TassiCreditori.PerC1 = 2.5f;
+        Stato.TassiDebitori.PerD1 = 10;
+        Stato.TassiDebitori.PerD6 = 20;
         Stato.OneriPassivi.Per3 = 27;
     }
-    // Fido 1000; 500 out on 01/04, 1000 more on 11/04, 1500 back on 21/04; commissions 2% on
-    // the excess, 1% on the line, 0.5% and 0.25% beyond it.
-    void ScopertoDiAprile() {
-        Stato.Conti[1].Fido = 1000;
+    // 10000 in on 01/01, 5000 more on 01/03. To 31/03, rows 31/12 (1 day on 0), 01/01 (59 days on
+    // 10000: 590000), 01/03 (30 days on 15000: 450000), 31/03: 1040000.
+    void CreditoDelTrimestre() {
+        Movimenti({M("01/01/2001", 10000, "E"), M("01/03/2001", 5000, "E")});
+    }
+    // 500 out on 01/04 (10 days at -500), 1000 more on 11/04 (10 days at -1500), 1500 back on
+    // 21/04; commissions 2% on the excess, 1.5% on the line, 0.5% and 0.25% beyond it.
+    void ScopertoDiAprile(double fido) {
+        Stato.Conti[1].Fido = fido;
         auto& o = Stato.OneriPassivi;
         o.Per1 = 2;
-        o.Per2 = 1;
+        o.Per2 = 1.5f;
         o.Per6 = 0.5f;
         o.Per7 = 0.25f;
-        Movimenti({Mov(1, "01/04/2001", "01/04/2001", 500, "U", "N"),
-                   Mov(2, "11/04/2001", "11/04/2001", 1000, "U", "N"),
-                   Mov(3, "21/04/2001", "21/04/2001", 1500, "E", "N")});
-    }
-    void Movimenti(const std::vector<RecMovimento>& m) {
-        Stato.NumMovimenti = static_cast<short>(m.size());
-        for (std::size_t i = 0; i < m.size(); ++i)
-            Stato.Movimenti[i + 1] = m[i];
+        Movimenti(
+            {M("01/04/2001", 500, "U"), M("11/04/2001", 1000, "U"), M("21/04/2001", 1500, "E")});
     }
 };
 
-TEST_F(CompetenzeTest, CreditoAUnTassoECambioDiTasso) {
-    // 10000 in on 01/01, 5000 more on 01/03. Rows 31/12 (1 day on 0), 01/01 (59 days on 10000:
-    // 590000), 01/03 (30 days on 15000: 450000), 31/03.
-    Movimenti({Mov(1, "01/01/2001", "01/01/2001", 10000, "E", "N"),
-               Mov(2, "01/03/2001", "01/03/2001", 5000, "E", "N")});
-    // One rate: 2.5 * 1040000 / 365 * 0.01 = 71.2329; tax 27% = 19.2329; net 52.00.
-    Competenze c = CalcolaInteressi("01/01/2001", "31/03/2001", false);
-    EXPECT_DOUBLE_EQ(c.TotaleNumeriCreditori, 1040000);
-    EXPECT_NEAR(c.InteressiLordi, 26000.0 / 365, 1e-9);
-    EXPECT_NEAR(c.Ritenuta, 0.27 * 26000.0 / 365, 1e-6);
-    EXPECT_TRUE(
-        HaRiga(c, "    31/12/2000      02,500  " + C("1.040.000,00") + "     " + C("71,23")));
-    EXPECT_TRUE(
-        HaRiga(c, "   RIT. FISCALE 27% Imponibile:" + C("0,00", 13) + "  Totale" + C("19,23", 13)));
-    EXPECT_TRUE(HaRiga(c, "                               Totale Netto       " + C("52,00", 15)));
-
-    // From 15/02 at 5%: the row of 01/01 stays whole at 2.5 (14750 / 365 = 40.4110), the row of
-    // 01/03 goes at 5 (22500 / 365 = 61.6438): gross 102.05 shows as the base; tax 27.55.
-    Stato.TassiCreditori.DataC2 = "15/02/2001";
-    Stato.TassiCreditori.PerC2 = 5;
-    c = CalcolaInteressi("01/01/2001", "31/03/2001", false);
-    EXPECT_NEAR(c.InteressiLordi, 37250.0 / 365, 1e-9);
-    EXPECT_TRUE(HaRiga(c, "    15/02/2001      05,000  " + C("450.000,00") + "     " + C("61,64")));
-    EXPECT_TRUE(HaRiga(c, "   RIT. FISCALE 27% Imponibile:" + C("102,05", 13) + "  Totale" +
-                              C("27,55", 13)));
-
-    // A year of 360 days: the same numeri over 360.
-    Stato.OpzioniCalcolo.GiorniCreditori = "1";
-    c = CalcolaInteressi("01/01/2001", "31/03/2001", false);
-    EXPECT_NEAR(c.InteressiLordi, 37250.0 / 360, 1e-9);
-    // Divisor 100: numeri a hundredth, factor 1: the same interest.
-    Stato.OpzioniCalcolo.Divisore = 3;
-    c = CalcolaInteressi("01/01/2001", "31/03/2001", false);
-    EXPECT_NEAR(c.TotaleNumeriCreditori, 10400, 1e-6);
-    EXPECT_NEAR(c.InteressiLordi, 37250.0 / 360, 1e-9);
+TEST_F(CompetenzeTest, Creditori) {
+    CreditoDelTrimestre();
+    struct Caso {
+        const char* dataC2;
+        short divisore;
+        const char* giorni;
+        double numeri, lordi, netti;
+        std::string riga, ritenuta; // the last rate's row; base and tax of the withholding
+    };
+    const Caso casi[] = {
+        // 2.5 * 1040000 / 365 * 0.01 = 71.2329; tax 27% 19.2329, no base shown below 100; 52.
+        {"", 1, "2", 1040000, 26000.0 / 365, 52,
+         "    31/12/2000      02,500  " + C("1.040.000,00") + "     " + C("71,23"),
+         C("0,00", 13) + "  Totale" + C("19,23", 13)},
+        // 5% from 01/03, a row's date: 01/01's row at 2.5 (590000 / 365 * 0.025 = 40.41), 01/03's
+        // at 5 (450000: 61.64); gross 102.05 is the base, tax 27.55, net 73% = 74.50.
+        {"01/03/2001", 1, "2", 1040000, 37250.0 / 365, 74.5,
+         "    01/03/2001      05,000  " + C("450.000,00") + "     " + C("61,64"),
+         C("102,05", 13) + "  Totale" + C("27,55", 13)},
+        // A year of 360 days: 22500 / 360 = 62.50; 37250 / 360 = 103.47, tax 27.94, net 75.53.
+        // Divisor 100: numeri a hundredth, factor 1: the same interest.
+        {"01/03/2001", 3, "1", 10400, 37250.0 / 360, 27192.5 / 360,
+         "    01/03/2001      05,000  " + C("4.500,00") + "     " + C("62,50"),
+         C("103,47", 13) + "  Totale" + C("27,94", 13)},
+    };
+    for (const Caso& k : casi) {
+        SCOPED_TRACE(k.riga);
+        Stato.TassiCreditori.DataC2 = k.dataC2;
+        Stato.TassiCreditori.PerC2 = 5;
+        Stato.OpzioniCalcolo.Divisore = k.divisore;
+        Stato.OpzioniCalcolo.GiorniCreditori = k.giorni;
+        Competenze c = CalcolaInteressi("01/01/2001", "31/03/2001", false);
+        EXPECT_NEAR(c.TotaleNumeriCreditori, k.numeri, 1e-6);
+        EXPECT_NEAR(c.InteressiLordi, k.lordi, 1e-9);
+        EXPECT_NEAR(c.InteressiNetti, k.netti, 1e-6);
+        EXPECT_TRUE(Ha(c.Righe, k.riga));
+        EXPECT_TRUE(Ha(c.Righe, "   RIT. FISCALE 27% Imponibile:" + k.ritenuta));
+    }
 }
 
 TEST_F(CompetenzeTest, DebitoEntroEOltreIlFido) {
-    // Fido 1000. 500 out on 01/04 (10 days at -500), 1000 more on 11/04 (10 days at -1500: -1000
-    // within, -500 beyond), 1500 back on 21/04. EF numeri 5000 + 10000 = 15000 at 10%:
-    // 1500 / 365 = 4.1096; FF 5000 at 20%: 1000 / 365 = 2.7397; total 6.85.
-    ScopertoDiAprile();
-    Competenze c = CalcolaInteressi("01/04/2001", "30/04/2001", false);
-    EXPECT_DOUBLE_EQ(c.TotaleNumeriDebitori, -20000);
-    EXPECT_DOUBLE_EQ(c.TotaleNumeriFuoriFido, -5000);
-    EXPECT_NEAR(c.InteressiDebitori, 2500.0 / 365, 1e-9);
-    // Commission on the largest position: EF on the line, 1000 * 1% = 10; FF Int(500 * 0.5%) =
-    // 2; FFGG Int(500 * 0.25%) = 1: 13. Debit 13 + 6.85 = 19.85 against no credit; with the
-    // excess commission Int(500 * 2%) = 10: Int(29.85) = 29 due.
-    CalcolaCosti(c);
-    EXPECT_DOUBLE_EQ(c.VociCosto[1], 13);
-    EXPECT_TRUE(HaRiga(c, "SBILANCIO COMPETENZE" + std::string(15, ' ') + C("19,85", 15)));
-    EXPECT_TRUE(HaRiga(c, "     SBILANCIO COMPETENZE A DEBITO" + C("29,00")));
-
-    // Within the line only (Fido 2000): Int(1500 * 1%) = 15 shown, 15 summed; FF rows blank.
-    Stato.Conti[1].Fido = 2000;
-    c = CalcolaInteressi("01/04/2001", "30/04/2001", false);
-    CalcolaCosti(c);
-    EXPECT_DOUBLE_EQ(c.TotaleNumeriFuoriFido, 0);
-    EXPECT_TRUE(HaRiga(c, " FF                 00,500  " + std::string(16, ' ') + "     " +
-                              std::string(16, ' ')));
-    EXPECT_DOUBLE_EQ(c.VociCosto[1], 15);
+    struct Caso {
+        double fido, fuoriFido, interessi, commissione;
+        std::vector<std::string> righe;
+    };
+    const Caso casi[] = {
+        // Fido 1000: EF numeri 5000 + 10000 at 10% = 1500 / 365, FF 5000 at 20% = 1000 / 365:
+        // 6.85. Commission on the largest position: 1000 * 1.5% = 15, Int(500 * 0.5%) = 2,
+        // Int(500 * 0.25%) = 1: 18. With Int(500 * 2%) = 10 on the excess: Int(34.85) = 34.
+        {1000, -5000, 2500.0 / 365, 18, {"     SBILANCIO COMPETENZE A DEBITO" + C("34,00")}},
+        // Fido 2000: all 20000 within at 10%, 2000 / 365 = 5.48; 1500 * 1.5% = 22.5, shown cut
+        // on the row of 11/04, the largest; 27.98.
+        {2000,
+         0,
+         2000.0 / 365,
+         22.5,
+         {" EF   11/04/2001    01,500  " + C("1.500,00") + "     " + C("22,00"),
+          "SBILANCIO COMPETENZE" + std::string(15, ' ') + C("27,98", 15)}},
+    };
+    for (const Caso& k : casi) {
+        SCOPED_TRACE(k.fido);
+        ScopertoDiAprile(k.fido);
+        Competenze c = CalcolaInteressi("01/04/2001", "30/04/2001", false);
+        CalcolaCosti(c);
+        EXPECT_DOUBLE_EQ(c.TotaleNumeriDebitori, -20000);
+        EXPECT_DOUBLE_EQ(c.TotaleNumeriFuoriFido, k.fuoriFido);
+        EXPECT_NEAR(c.InteressiDebitori, k.interessi, 1e-9);
+        EXPECT_DOUBLE_EQ(c.VociCosto[1], k.commissione);
+        for (const std::string& riga : k.righe)
+            EXPECT_TRUE(Ha(c.Righe, riga)) << riga;
+    }
 }
 
 TEST_F(CompetenzeTest, SpeseFisseEScritture) {
-    // VS costs, PR doesn't: three VS and one PR in the quarter count 3.
+    // VS costs, PR doesn't: three VS and one PR in the quarter count 3. Closing 5 yearly, keeping
+    // 3 quarterly, 0.5 a movement quarterly, a flat refund of 4 quarterly.
     Stato.Causali[1].SoggettoCosto = "1";
-    Stato.Causali[2].SoggettoCosto = "0";
-    Movimenti({Mov(1, "01/10/2001", "01/10/2001", 100, "E", "N", "VS"),
-               Mov(2, "02/10/2001", "02/10/2001", 100, "E", "N", "VS"),
-               Mov(3, "03/10/2001", "03/10/2001", 100, "E", "N", "VS"),
-               Mov(4, "04/10/2001", "04/10/2001", 50, "U", "N", "PR")});
+    Movimenti({M("01/10/2001", 100, "E"), M("02/10/2001", 100, "E"), M("03/10/2001", 100, "E"),
+               M("04/10/2001", 50, "U", "N", "PR")});
     auto& s = Stato.SpeseVarie;
-    s.IMPORTO1 = 5; // closing, yearly
+    s.IMPORTO1 = 5;
     s.Frequenza1 = "0";
-    s.IMPORTO2 = 3; // keeping, quarterly
+    s.IMPORTO2 = 3;
     s.Frequenza2 = "1";
-    s.IMPORTO3 = 0.5; // a movement, quarterly
+    s.IMPORTO3 = 0.5;
     s.Frequenza3 = "1";
-    s.IMPORTO5 = 4; // flat refund, quarterly
+    s.IMPORTO5 = 4;
     s.Frequenza5 = "1";
     struct Caso {
         const char* al;
@@ -148,16 +138,13 @@ TEST_F(CompetenzeTest, SpeseFisseEScritture) {
         Stato.OpzioniCalcolo.NrScritt = k.nrScritt;
         Competenze c = CalcolaInteressi("01/10/2001", k.al, false);
         CalcolaCosti(c);
-        double spese = 0;
-        for (int i = 4; i <= 10; ++i)
-            spese += c.VociCosto[static_cast<std::size_t>(i)];
-        EXPECT_DOUBLE_EQ(spese, k.spese);
+        EXPECT_DOUBLE_EQ(std::accumulate(&c.VociCosto[4], &c.VociCosto[11], 0.0), k.spese);
     }
 }
 
 TEST_F(CompetenzeTest, CaricoLiberoSuOgniBase) {
     // P = 2 on: gross credit interest 200, debit interest 50, excess 300, credit numeri 36500,
-    // debit numeri -7300, line 1000; year 365, factor 0.01.
+    // debit numeri -7300, line 1000; credit year 360, debit year 365, factor 0.01.
     Stato.Conti[1].Fido = 1000;
     auto& o = Stato.OneriPassivi;
     o.Descr3 = "Uno";
@@ -165,18 +152,24 @@ TEST_F(CompetenzeTest, CaricoLiberoSuOgniBase) {
     o.Per4 = o.Per5 = 2;
     struct Caso {
         const char* applica;
+        bool carta;
         double base1, importo1, importo2;
     };
+    // Numeri creditori at 2 * 36500 / 360 (the credit year) * 0.01; (300 + 1000) * 2% on the
+    // largest overdraft. On the debit numeri the first takes 2 * -7300 / 365 - 0.01 and shows
+    // the base less 1, the second (-40) * -1 * 0.01; paper takes the second's way for both.
     const Caso casi[] = {
-        {"1", 200, 4, 4},          {"2", 50, 1, 1},
-        {"3", 300, 6, 6},          {"4", 36500, 2, 2}, // 2 * 36500 / 365 * 0.01
-        {"5", -7301, -40.01, 0.4},                     // 2 * -7300 / 365 - 0.01; (-40) * -1 * 0.01
-        {"6", 1300, 26, 26},                           // (300 + 1000) * 2%
+        {"1", false, 200, 4, 4},     {"2", false, 50, 1, 1},
+        {"3", false, 300, 6, 6},     {"4", false, 36500, 730.0 / 360, 730.0 / 360},
+        {"6", false, 1300, 26, 26},  {"5", false, -7301, -40.01, 0.4},
+        {"5", true, 7300, 0.4, 0.4},
     };
     for (const Caso& k : casi) {
         SCOPED_TRACE(k.applica);
         Competenze c;
+        c.Carta = k.carta;
         c.FattoreInteresse = 0.01;
+        c.AnnoCreditori = 360;
         c.InteressiLordi = 200;
         c.InteressiDebitori = 50;
         c.MassimaEccedenza = -300;
@@ -186,48 +179,34 @@ TEST_F(CompetenzeTest, CaricoLiberoSuOgniBase) {
         CalcolaCosti(c);
         EXPECT_NEAR(c.VociCosto[2], k.importo1, 1e-9);
         EXPECT_NEAR(c.VociCosto[3], k.importo2, 1e-9);
-        EXPECT_TRUE(HaRiga(c, std::string(21, ' ') + "02,000     " +
-                                  C(Format(k.base1, Stato.FormatoImporti), 13) + "    " +
-                                  C(Format(k.importo1, Stato.FormatoImporti))));
+        EXPECT_TRUE(Ha(c.Righe, std::string(21, ' ') + "02,000     " +
+                                    C(Format(k.base1, Stato.FormatoImporti), 13) + "    " +
+                                    C(Format(k.importo1, Stato.FormatoImporti))));
     }
 }
 
 TEST_F(CompetenzeTest, LaStampaRifaIContiASuoModo) {
-    // A movement on dal: the same interest as on the screen, the rows spaced for paper.
-    Movimenti({Mov(1, "01/01/2001", "01/01/2001", 10000, "E", "N"),
-               Mov(2, "01/03/2001", "01/03/2001", 5000, "E", "N")});
-    Competenze c = CalcolaInteressi("01/01/2001", "31/03/2001", false, true);
-    EXPECT_NEAR(c.InteressiLordi, 26000.0 / 365, 1e-9);
-    EXPECT_TRUE(
-        HaRiga(c, "      31/12/2000     02,500  " + C("1.040.000,00") + "    " + C("71,23")));
-    EXPECT_TRUE(HaRiga(c, std::string(33, ' ') + "Totale Lordo    " + C("71,23")));
-
-    // None on 01/02: rows 01/02 (28 days on 10000), 01/03 (30 on 15000), 31/03 (31/01 - 31/03 =
-    // -59 days on 15000), 31/01 last: 280000 + 450000 - 885000; the screen has 740000.
-    c = CalcolaInteressi("01/02/2001", "31/03/2001", false, true);
+    // None on dal 01/02: rows 01/02 (28 days on 10000), 01/03 (30 on 15000), 31/03 (31/01 -
+    // 31/03 = -59 days on 15000), 31/01 last: 280000 + 450000 - 885000; the screen has 740000.
+    CreditoDelTrimestre();
+    Competenze c = CalcolaInteressi("01/02/2001", "31/03/2001", false, true);
     EXPECT_DOUBLE_EQ(c.TotaleNumeriCreditori, -155000);
     EXPECT_TRUE(
-        HaRiga(c, "      31/01/2001     02,500  " + C("-155.000,00") + "    " + C("-10,62")));
+        Ha(c.Righe, "      31/01/2001     02,500  " + C("-155.000,00") + "    " + C("-10,62")));
 
-    // Debit within and beyond a line of 1000: the numeri of the screen, the excess commission
-    // 500 * 2% and the final 19.85 + 10 not cut.
-    auto& o = Stato.OneriPassivi;
-    ScopertoDiAprile();
-    c = CalcolaInteressi("01/04/2001", "30/04/2001", false, true);
-    CalcolaCosti(c);
-    EXPECT_TRUE(HaRiga(c, " EF   31/03/2001     10,000  " + C("15.000,00") + "    " + C("4,11")));
-    EXPECT_TRUE(HaRiga(c, " FF                  20,000  " + C("5.000,00") + "    " + C("2,74")));
-    EXPECT_TRUE(HaRiga(c, "     02,000    " + C("500,00") + "   " + C("10,00")));
-    EXPECT_TRUE(HaRiga(c, "     SBILANCIO COMPETENZE A DEBITO" + C("29,85")));
-
-    // The first free charge on the debit numeri goes as the second: -(2 * -7300 / 365) * 0.01.
-    o.Descr3 = "Uno";
-    o.Per4 = 2;
-    o.ApplicaDescr3 = "5";
-    c = Competenze{};
-    c.Carta = true;
-    c.FattoreInteresse = 0.01;
-    c.TotaleNumeriDebitori = -7300;
-    CalcolaCosti(c);
-    EXPECT_NEAR(c.VociCosto[2], 0.4, 1e-9);
+    // Debit within and beyond the line, printed: the numeri of the screen, its own spacing, the
+    // excess commission 500 * 2% and the final 24.85 + 10 not cut, bold.
+    ScopertoDiAprile(1000);
+    app->Staffa.dal.SetText("01/04/2001");
+    app->Staffa.al.SetText("30/04/2001");
+    app->Staffa.List1.Visible = false; // the competences shown: Stampa prints them
+    app->Staffa.Stampa.Clicca();
+    auto stampata = [this](const std::string& riga) { return Ha(porta.carta, "|" + riga + "|"); };
+    EXPECT_TRUE(stampata(" EF   31/03/2001     10,000  " + C("15.000,00") + "    " + C("4,11")));
+    EXPECT_TRUE(stampata(" FF                  20,000  " + C("5.000,00") + "    " + C("2,74")));
+    EXPECT_TRUE(stampata("     02,000    " + C("500,00") + "   " + C("10,00")));
+    const std::vector<std::string> fine = {
+        "{bold on}", "|     SBILANCIO COMPETENZE A DEBITO" + C("34,85") + "|", "{bold off}"};
+    EXPECT_NE(std::search(porta.carta.begin(), porta.carta.end(), fine.begin(), fine.end()),
+              porta.carta.end());
 }
