@@ -1,62 +1,9 @@
+// What a screen does on its own: the design values back at each unload, one option on per
+// group, and a lost-focus handler that sends the focus elsewhere.
 #include "screen/Schermo.h"
-#include "screen/PiattaformaSenzaSchermo.h"
-#include "shell/MDIForm1.h"
-
 #include "tests/Ambiente.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 namespace {
-
-using ConPiattaforma = Ambiente;
-
-TEST(Liste, UnaRigaAggiuntaSpostaLaSceltaSenzaClic) {
-    struct Caso {
-        const char* nome;
-        bool ordinata;
-        std::vector<std::string> righe;
-        int scelta;
-        std::string nuova;
-        std::vector<std::string> attese;
-        int sceltaAttesa;
-    };
-    const Caso casi[] = {
-        {"before the selection", true, {"b", "d"}, 1, "c", {"b", "c", "d"}, 2},
-        {"equal goes after", true, {"b", "d"}, 0, "B", {"b", "B", "d"}, 0},
-        {"blank before letters", true, {"a"}, 0, " z", {" z", "a"}, 1},
-        {"unsorted at the end", false, {"d", "b"}, 0, "a", {"d", "b", "a"}, 0},
-    };
-    for (const Caso& caso : casi) {
-        Schermo s{"ProvaLista", ""};
-        Controllo lista{s, TipoControllo::Lista, "Lista"};
-        lista.Sorted = caso.ordinata;
-        for (const std::string& r : caso.righe) lista.AddItem(r);
-        lista.SetListIndex(caso.scelta);
-        int clic = 0;
-        lista.Click = [&clic] { ++clic; };
-        lista.AddItem(caso.nuova);
-        EXPECT_EQ(lista.Righe(), caso.attese) << caso.nome;
-        EXPECT_EQ(lista.ListIndex(), caso.sceltaAttesa) << caso.nome;
-        EXPECT_EQ(clic, 0) << caso.nome;
-    }
-}
-
-TEST(Liste, UnaRigaToltaSpostaLaScelta) {
-    Schermo s{"ProvaLista", ""};
-    Controllo lista{s, TipoControllo::Lista, "Lista"};
-    for (const char* r : {"a", "b", "c", "d"}) lista.AddItem(r);
-    lista.SetListIndex(2);
-    lista.RemoveItem(0);
-    EXPECT_EQ(lista.ListIndex(), 1) << "a line above the selection moves it up";
-    lista.RemoveItem(2);
-    EXPECT_EQ(lista.ListIndex(), 1) << "a line below the selection leaves it";
-    lista.RemoveItem(1);
-    EXPECT_EQ(lista.ListIndex(), -1) << "the selected line gone, nothing is selected";
-}
-
 struct Modulo {
     Schermo S{"Modulo", "Scheda"};
     Controllo Campo{S, TipoControllo::Campo, "Campo", "iniziale"};
@@ -66,9 +13,9 @@ struct Modulo {
     Controllo OK{S, TipoControllo::Pulsante, "OK", "OK"};
 };
 
-using Scaricamento = ConPiattaforma;
+using SchermoTest = Ambiente;
 
-TEST_F(Scaricamento, RestituisceIValoriDiProgetto) {
+TEST_F(SchermoTest, LoScaricamentoRestituisceIValoriDiProgetto) {
     Modulo m;
     // What Load puts in is the program's doing, not the design: it goes at the unload too.
     m.S.Load = [&m] { m.Lista.AddItem("caricata"); };
@@ -95,67 +42,49 @@ TEST_F(Scaricamento, RestituisceIValoriDiProgetto) {
     EXPECT_EQ(m.S.Fuoco(), &m.Campo);
 }
 
-struct Opzioni {
-    Schermo S{"Opzioni", ""};
-    Controllo A1{S, TipoControllo::Opzione, "A1"};
-    Controllo A2{S, TipoControllo::Opzione, "A2"};
-    Controllo B1{S, TipoControllo::Opzione, "B1"};
-    Controllo B2{S, TipoControllo::Opzione, "B2"};
-    Controllo Casella{S, TipoControllo::Casella, "Casella"};
-    std::vector<std::string> clic;
-
-    Opzioni() {
-        for (Controllo* c : {&A1, &A2, &B1, &B2, &Casella})
-            c->Click = [this, c] { clic.push_back(c->nome); };
-        B1.Gruppo = B2.Gruppo = "B";
-    }
-    std::string Accese() const {
+TEST_F(SchermoTest, UnaOpzioneAccesaPerGruppo) {
+    Schermo s{"Opzioni", ""};
+    Controllo a1{s, TipoControllo::Opzione, "A1"}, a2{s, TipoControllo::Opzione, "A2"};
+    Controllo b1{s, TipoControllo::Opzione, "B1"}, b2{s, TipoControllo::Opzione, "B2"};
+    Controllo spenta{s, TipoControllo::Opzione, "Spenta"};
+    Controllo nascosta{s, TipoControllo::Opzione, "Nascosta"};
+    Controllo casella{s, TipoControllo::Casella, "Casella"};
+    b1.Gruppo = b2.Gruppo = "B";
+    spenta.Enabled = nascosta.Visible = false;
+    const std::vector<Controllo*> tutti = {&a1, &a2, &b1, &b2, &spenta, &nascosta, &casella};
+    std::string clic;
+    for (Controllo* c : tutti)
+        c->Click = [&clic, c] { clic += c->nome; };
+    auto accese = [&] {
         std::string s;
-        for (const Controllo* c : {&A1, &A2, &B1, &B2, &Casella})
+        for (const Controllo* c : tutti)
             if (c->Value()) s += c->nome;
         return s;
-    }
-};
+    };
 
-using GruppiDiOpzioni = ConPiattaforma;
-
-TEST_F(GruppiDiOpzioni, UnaAccesaPerGruppo) {
-    Opzioni o;
-    o.A1.Clicca();
-    o.B2.Clicca();
-    o.A2.Clicca();
-    EXPECT_EQ(o.Accese(), "A2B2") << "the other group keeps its choice";
-    o.B1.SetValue(true);
-    EXPECT_EQ(o.Accese(), "A2B1");
-    // Only the option turned on clicks; the one turned off doesn't.
-    EXPECT_EQ(o.clic, (std::vector<std::string>{"A1", "B2", "A2", "B1"}));
-    EXPECT_EQ(o.S.Fuoco(), &o.A2) << "a click takes the focus, a value set in code doesn't";
+    for (Controllo* c : {&a1, &b2, &casella, &a2, &spenta, &nascosta, &casella})
+        c->Clicca();
+    EXPECT_EQ(accese(), "A2B2") << "the other group keeps its choice";
+    b1.SetValue(true);
+    EXPECT_EQ(accese(), "A2B1");
+    // Only the option turned on clicks; the one turned off doesn't; a disabled
+    // or hidden one not at all.
+    EXPECT_EQ(clic, "A1B2CasellaA2CasellaB1");
+    EXPECT_EQ(s.Fuoco(), &casella) << "a click takes the focus, a value set in code doesn't";
 }
 
-TEST_F(GruppiDiOpzioni, LaCasellaSiAlternaESpentaONascostaNonRisponde) {
-    Opzioni o;
-    o.A1.Enabled = false;
-    o.A2.Visible = false;
-    for (Controllo* c : {&o.Casella, &o.A1, &o.A2, &o.Casella}) c->Clicca();
-    EXPECT_EQ(o.Accese(), "");
-    EXPECT_EQ(o.clic, (std::vector<std::string>{"Casella", "Casella"}));
-}
-
-using Fuoco = ConPiattaforma;
-
-TEST_F(Fuoco, UnaPerditaDiFuocoCheLoSpostaVince) {
+TEST_F(SchermoTest, UnaPerditaDiFuocoCheLoSpostaVince) {
     Modulo m;
-    std::vector<std::string> eventi;
+    std::string eventi;
     m.Campo.LostFocus = [&] {
-        eventi.push_back("perde Campo");
+        eventi += "perde Campo|";
         m.Casella.SetFocus();
     };
-    m.Casella.GotFocus = [&] { eventi.push_back("prende Casella"); };
-    m.Lista.GotFocus = [&] { eventi.push_back("prende Lista"); };
+    m.Casella.GotFocus = [&] { eventi += "prende Casella|"; };
+    m.Lista.GotFocus = [&] { eventi += "prende Lista|"; };
     m.S.Show();
     m.Lista.SetFocus();
     EXPECT_EQ(m.S.Fuoco(), &m.Casella);
-    EXPECT_EQ(eventi, (std::vector<std::string>{"perde Campo", "prende Casella"}));
+    EXPECT_EQ(eventi, "perde Campo|prende Casella|");
 }
-
 } // namespace

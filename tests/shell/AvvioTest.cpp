@@ -1,17 +1,14 @@
-// The start of the program: the first start of an installation, the later ones, the data
-// directory and the start account.
+// The start of the program: what a first start installs and a later one leaves alone, the
+// stored preferences it follows, the failures it survives, and the modes of what it makes.
 #include "tests/Ambiente.h"
 
+#include "ledger/Registro.h"
 #include "shell/PrimoAvvio.h"
 #include "store/Testo.h"
 
-namespace {
-// A text field as it lies on disk: one byte a character, blank-padded.
-void Accoda(Byte& b, const std::string& testo, std::size_t larghezza) {
-    std::string campo = testo + std::string(larghezza - testo.size(), ' ');
-    b.insert(b.end(), campo.begin(), campo.end());
-}
+#include <sys/stat.h>
 
+namespace {
 using AvvioTest = Ambiente;
 
 TEST_F(AvvioTest, PrimoAvvioInstallaIFileFornitiSenzaToccareQuelliPresenti) {
@@ -19,57 +16,37 @@ TEST_F(AvvioTest, PrimoAvvioInstallaIFileFornitiSenzaToccareQuelliPresenti) {
     ScriviFile(programma / "3.ICO", {'m', 'i', 'a'});
     Avvia();
     fs::path forniti = CartellaForniti();
-    ASSERT_FALSE(forniti.empty());
-    for (int n = 1; n <= 15; ++n) {
-        std::string nome = std::to_string(n) + ".ICO";
-        if (n != 3) EXPECT_EQ(ContenutoFile(programma / nome), ContenutoFile(forniti / nome));
-    }
+    for (const char* nome : {"1.ICO", "15.ICO", "Help01.txt"})
+        EXPECT_EQ(ContenutoFile(programma / nome), ContenutoFile(forniti / nome)) << nome;
     EXPECT_EQ(ContenutoFile(programma / "3.ICO"), (Byte{'m', 'i', 'a'}));
-    EXPECT_EQ(ContenutoFile(programma / "Help01.txt"), ContenutoFile(forniti / "Help01.txt"));
 }
 
-TEST_F(AvvioTest, SecondoAvvioSenzaBenvenutoNeSemina) {
+// A lost Valute.DAT reads as a missing one and seeds nothing: no welcome, no Euro, the causali
+// as they were.
+TEST_F(AvvioTest, UnAvvioSuccessivoNonSeminaNulla) {
     Avvia();
     Byte causali = ContenutoFile(programma / "Causali.DAT");
-    Byte valute = ContenutoFile(programma / "Valute.DAT");
+    fs::remove(programma / "Valute.DAT");
+    Messaggi();
     Avvia();
     EXPECT_FALSE(app->Form1.S.Caricato());
     EXPECT_TRUE(Messaggi().empty());
     EXPECT_EQ(ContenutoFile(programma / "Causali.DAT"), causali);
-    EXPECT_EQ(ContenutoFile(programma / "Valute.DAT"), valute);
+    EXPECT_EQ(Stato.NumCausali, 3);
+    EXPECT_EQ(fs::file_size(programma / "Valute.DAT"), 0u);
 }
 
-TEST_F(AvvioTest, FormatoDegliImportiDaiDecimali) {
-    const std::pair<std::int16_t, const char*> casi[] = {
-        {0, "#,###,###,##0"}, {2, "#,###,###,##0.00"}, {4, "#,###,###,##0.0000"},
-        {5, ""}, {-1, ""}};
-    fs::create_directories(programma);
-    for (const auto& [decimali, formato] : casi) {
-        RecImposta imposta;
-        imposta.decimali = decimali;
-        ScriviImposta(imposta);
-        Avvia();
-        EXPECT_EQ(Stato.FormatoImporti, formato) << decimali;
-    }
-}
-
+// A stored path counts when it begins with "/" or a character coded 65 ("A") to 122 ("z").
 TEST_F(AvvioTest, PercorsoDatiDalPercorsoMemorizzato) {
     std::string programmaDati = programma.string() + "/dati/";
     std::string assoluto = (radice / "altrove").string() + "/";
     const std::pair<std::string, std::string> casi[] = {
-        {"", programmaDati},
-        {"0", programmaDati},
-        {assoluto, assoluto},
-        {"  " + assoluto + " ", assoluto},
-        {"Archivio/", "Archivio/"},
-        {"zeta/", "zeta/"}, // "z", the last code of a letter
-        {"[x]/", "[x]/"},   // between the codes of "A" and "z"
-        {"{x}/", programmaDati},
-        {"1dati/", programmaDati},
+        {"", programmaDati},        {"0", programmaDati},      {"  " + assoluto + " ", assoluto},
+        {"Archivio/", "Archivio/"}, {"zeta/", "zeta/"},        {"[x]/", "[x]/"},
+        {"{x}/", programmaDati},    {"1dati/", programmaDati},
     };
     Avvia();
     for (const auto& [memorizzato, atteso] : casi) {
-        fs::create_directories(programma);
         RecImposta imposta;
         imposta.PerAvv = memorizzato;
         ScriviImposta(imposta);
@@ -78,28 +55,20 @@ TEST_F(AvvioTest, PercorsoDatiDalPercorsoMemorizzato) {
         EXPECT_EQ(Finestra().Codice.Text() + "|" + Stato.PercorsoDati, atteso + "|" + atteso);
         EXPECT_TRUE(Messaggi().empty()) << '"' << memorizzato << '"';
     }
-
-    RecImposta imposta;
-    imposta.PerAvv = (radice / "manca").string() + "/";
-    ScriviImposta(imposta);
-    Avvia();
-    EXPECT_EQ(Messaggi(), (std::vector<std::string>{"FAILURE 76 " + DescrizioneErrore(76)}));
 }
 
 TEST_F(AvvioTest, ContoDiAvvio) {
     const std::pair<const char*, std::vector<std::string>> casi[] = {
-        {"", {}},
         {"0", {}},
         {"ABC", {}}, // a letter first: value 0, never opened
         {"123", {"[] il nr. di conto non esiste. ricontrollare i dati inseriti -> OK"}},
-        {"12", {}},
         {" 12 ", {}},
     };
     Avvia();
+    fs::create_directories(dati);
+    ScriviConto("12", "Banca di Prova", 1500.5);
     for (const auto& [memorizzato, messaggi] : casi) {
         SCOPED_TRACE(std::string("\"") + memorizzato + "\"");
-        fs::create_directories(dati);
-        ScriviConto("12", "Banca di Prova", 1500.5);
         RecImposta imposta;
         imposta.decimali = 2;
         imposta.contAvv = memorizzato;
@@ -116,5 +85,60 @@ TEST_F(AvvioTest, ContoDiAvvio) {
         // A new account: its files come into being empty.
         EXPECT_EQ(fs::exists(dati / "12.MOV"), aperto);
     }
+}
+
+// Wherever the start fails, the box comes and then the window, with no account loaded.
+TEST_F(AvvioTest, UnGuastoAllAvvioLasciaLaFinestra) {
+    RecImposta altrove, senzaTrattino;
+    altrove.PerAvv = (radice / "manca").string() + "/";
+    senzaTrattino.Combo1 = "Euro";
+    const std::pair<std::function<void()>, int> casi[] = {
+        {[&] { ScriviImposta(altrove); }, 76},
+        {[&] {
+             ScriviFile(dati / "RecConti.dat", {101, 0});
+         },
+         9},
+        {[&] {
+             fs::remove(programma / "Valute.DAT"), fs::create_directory(programma / "Valute.DAT");
+         },
+         52},
+        {[&] { ScriviImposta(senzaTrattino); }, 5},
+    };
+    for (const auto& [guasta, numero] : casi) {
+        SCOPED_TRACE(numero);
+        fs::remove_all(programma);
+        Avvia();
+        guasta();
+        Messaggi();
+        Avvia();
+        EXPECT_EQ(Messaggi(), (std::vector<std::string>{"FAILURE " + std::to_string(numero) + " " +
+                                                        DescrizioneErrore(numero)}));
+        EXPECT_TRUE(Finestra().S.Mostrato());
+        EXPECT_EQ(Stato.NumConti, 0);
+    }
+}
+
+// The modes of all that a first start, the opening of an account and its first movement make,
+// under a umask that would leave them open to the group.
+TEST_F(AvvioTest, FileECartellePrivati) {
+    mode_t prima = umask(002);
+    Avvia();
+    ScriviConto("12", "Banca", 0);
+    RecImposta imposta;
+    imposta.contAvv = "12";
+    ScriviImposta(imposta);
+    Avvia();
+    Stato.Movimenti[++Stato.NumMovimenti] = Mov(1, "01/03/2001", "01/03/2001", 5, "E", "N");
+    EXPECT_TRUE(EseguiEvento(AggiungiMovimento));
+    umask(prima);
+    EXPECT_EQ(fs::file_size(dati / "12.MOV"), RecMovimento::Lunghezza);
+    int visti = 0;
+    for (const auto& voce : fs::recursive_directory_iterator(radice)) {
+        struct stat info;
+        ASSERT_EQ(lstat(voce.path().c_str(), &info), 0);
+        EXPECT_EQ(info.st_mode & 07777, voce.is_directory() ? 0700u : 0600u) << voce.path();
+        ++visti;
+    }
+    EXPECT_GT(visti, 30);
 }
 } // namespace

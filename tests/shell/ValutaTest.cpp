@@ -1,5 +1,5 @@
 // The currency in use: the lines of the combo, the choice at the start by name, a choice by the
-// user with its flag, its rate and the redraw of an open account.
+// user with its rate, and the redraw of an open account at its rate.
 #include "tests/Ambiente.h"
 
 #include "store/RecordRegistro.h"
@@ -22,11 +22,9 @@ struct ValutaTest : Ambiente {
         Avvia();
     }
     Controllo& Combo() { return Finestra().Combo1; }
-    int Riga(const std::string& testo) {
-        auto i = std::find(Combo().Righe().begin(), Combo().Righe().end(), testo);
-        return static_cast<int>(i - Combo().Righe().begin());
-    }
-    void Scegli(int riga) {
+    void Scegli(const std::string& testo) {
+        const auto& righe = Combo().Righe();
+        int riga = static_cast<int>(std::find(righe.begin(), righe.end(), testo) - righe.begin());
         EseguiEvento([&] { Combo().SetListIndex(riga); });
     }
 };
@@ -40,7 +38,7 @@ TEST_F(ValutaTest, RigheInOrdineDiTesto) {
 }
 
 TEST_F(ValutaTest, ValutaPredefinitaAllAvvioCercataPerNome) {
-    struct Caso {
+    const struct {
         const char* predefinita;
         const char* riga; // the line chosen, "" for none
         double cambio;
@@ -55,7 +53,7 @@ TEST_F(ValutaTest, ValutaPredefinitaAllAvvioCercataPerNome) {
         // No line of a record never written: no choice, and no name to give a rate.
         {"Yen - Giappone", "", 1},
     };
-    for (const Caso& c : casi) {
+    for (const auto& c : casi) {
         Installa(c.predefinita);
         EXPECT_EQ(Combo().Text(), c.riga) << c.predefinita;
         EXPECT_EQ(Stato.Cambio, c.cambio) << c.predefinita;
@@ -64,50 +62,41 @@ TEST_F(ValutaTest, ValutaPredefinitaAllAvvioCercataPerNome) {
     }
 }
 
-TEST_F(ValutaTest, SceltaDellUtenteCambioEBandiera) {
+TEST_F(ValutaTest, SceltaDellUtenteESuaBandiera) {
     Installa();
-    Scegli(Riga("Franco - Francia"));
+    Scegli("Franco - Francia");
     EXPECT_EQ(Stato.Cambio, 6.55957);
-    EXPECT_EQ(Finestra().Image1.Text(),
-              programma.string() + "/" + std::to_string(Riga("Franco - Francia") + 1) + ".ICO");
-    // A line never written matches no record: the rate stays, only the flag changes.
-    Scegli(3);
+    // A line never written matches no record: the rate stays.
+    Scegli(" - ");
     EXPECT_EQ(Stato.Cambio, 6.55957);
-    EXPECT_EQ(Finestra().Image1.Text(), programma.string() + "/4.ICO");
     EXPECT_TRUE(Messaggi().empty());
-
-    int lira = Riga("Lira - Italia");
-    fs::remove(programma / (std::to_string(lira + 1) + ".ICO"));
-    Scegli(lira);
+    // Lira is line 12 of the combo: its flag is 13.ICO.
+    fs::remove(programma / "13.ICO");
+    Scegli("Lira - Italia");
     EXPECT_EQ(Messaggi(), (std::vector<std::string>{"FAILURE 53 " + DescrizioneErrore(53)}));
     EXPECT_EQ(Stato.Cambio, 6.55957);
 }
 
-TEST_F(ValutaTest, DaEuroALiraConContoApertoRidisegnaIlPannello) {
+TEST_F(ValutaTest, IlContoApertoAlCambioDellAvvioEDiOgniScelta) {
     fs::create_directories(dati);
     ScriviConto("12", "Banca di Prova", 1000);
-    RecMovimento m;
-    m.NrOper = 1;
-    m.DataOper = m.DataValuta = "15/03/2001";
-    m.IMPORTO = 1234.56;
-    m.Sospeso = m.Annullato = "N";
-    m.D_A = "E";
-    ScriviIn(dati / "12.MOV", m, 1);
+    ScriviIn(dati / "12.MOV", Mov(1, "15/03/2001", "15/03/2001", 1234.56, "E", "N"), 1);
     ScriviContatore((dati / "12.MOR").string(), 1);
-    Installa("Euro - Unione Europea", "12");
+    Installa("Lira - Italia", "12");
     MDIForm1& f = Finestra();
-    ASSERT_EQ(Stato.ContoAperto, 1);
-    EXPECT_EQ(f.Saldi(5).Text(), "2.234,56");
-
-    Scegli(Riga("Lira - Italia"));
-    EXPECT_TRUE(Messaggi().empty());
-    // 1234,56 * 1936,27 = 2.390.441,4912; 1000 * 1936,27 = 1.936.270.
-    for (int i : {0, 1, 3, 4}) EXPECT_EQ(f.Saldi(i).Text(), "2.390.441,49") << i;
+    const Controllo& elenco = app->Form9.ElencoMovim;
+    // 1000 * 1936,27 = 1.936.270; 1234,56 * 1936,27 = 2.390.441,4912.
     EXPECT_EQ(f.Saldi(2).Text(), "1.936.270,00");
-    // The availability in whole numbers: 1.936.270 + 2.390.441,4912 rounded.
-    EXPECT_EQ(f.Saldi(5).Text(), "4.326.711,00");
-    ASSERT_EQ(app->Form9.ElencoMovim.ListCount(), 1);
-    EXPECT_TRUE(app->Form9.ElencoMovim.List(0).ends_with("   2.390.441,49 *"))
-        << app->Form9.ElencoMovim.List(0);
+    ASSERT_EQ(elenco.ListCount(), 1);
+    EXPECT_TRUE(elenco.List(0).ends_with("   2.390.441,49 *")) << elenco.List(0);
+
+    Scegli("Euro - Unione Europea");
+    EXPECT_TRUE(Messaggi().empty());
+    for (int i : {0, 1, 3, 4})
+        EXPECT_EQ(f.Saldi(i).Text(), "1.234,56") << i;
+    EXPECT_EQ(f.Saldi(2).Text(), "1.000,00");
+    // The availability through whole numbers: 1000 + 1234,56 = 2234,56, rounded to 2235.
+    EXPECT_EQ(f.Saldi(5).Text(), "2.235,00");
+    EXPECT_TRUE(elenco.List(0).ends_with("   1.234,56 *")) << elenco.List(0);
 }
 } // namespace
