@@ -57,13 +57,16 @@ TEST_F(AvvioTest, PercorsoDatiDalPercorsoMemorizzato) {
     }
 }
 
-TEST_F(AvvioTest, ContoDiAvvio) {
+// The account of the start, and the modes of all that the start, the opening of the account and
+// its first movement make, under a umask that would leave them open to the group.
+TEST_F(AvvioTest, ContoDiAvvioEFilePrivati) {
     const std::pair<const char*, std::vector<std::string>> casi[] = {
         {"0", {}},
         {"ABC", {}}, // a letter first: value 0, never opened
         {"123", {"[] il nr. di conto non esiste. ricontrollare i dati inseriti -> OK"}},
         {" 12 ", {}},
     };
+    mode_t prima = umask(002);
     Avvia();
     fs::create_directories(dati);
     ScriviConto("12", "Banca di Prova", 1500.5);
@@ -85,6 +88,18 @@ TEST_F(AvvioTest, ContoDiAvvio) {
         // A new account: its files come into being empty.
         EXPECT_EQ(fs::exists(dati / "12.MOV"), aperto);
     }
+    Stato.Movimenti[++Stato.NumMovimenti] = Mov(1, "01/03/2001", "01/03/2001", 5, "E", "N");
+    EXPECT_TRUE(EseguiEvento(AggiungiMovimento));
+    umask(prima);
+    EXPECT_EQ(fs::file_size(dati / "12.MOV"), RecMovimento::Lunghezza);
+    int visti = 0;
+    for (const auto& voce : fs::recursive_directory_iterator(radice)) {
+        struct stat info;
+        ASSERT_EQ(lstat(voce.path().c_str(), &info), 0);
+        EXPECT_EQ(info.st_mode & 07777, voce.is_directory() ? 0700u : 0600u) << voce.path();
+        ++visti;
+    }
+    EXPECT_GT(visti, 30);
 }
 
 // Wherever the start fails, the box comes and then the window, with no account loaded.
@@ -116,29 +131,5 @@ TEST_F(AvvioTest, UnGuastoAllAvvioLasciaLaFinestra) {
         EXPECT_TRUE(Finestra().S.Mostrato());
         EXPECT_EQ(Stato.NumConti, 0);
     }
-}
-
-// The modes of all that a first start, the opening of an account and its first movement make,
-// under a umask that would leave them open to the group.
-TEST_F(AvvioTest, FileECartellePrivati) {
-    mode_t prima = umask(002);
-    Avvia();
-    ScriviConto("12", "Banca", 0);
-    RecImposta imposta;
-    imposta.contAvv = "12";
-    ScriviImposta(imposta);
-    Avvia();
-    Stato.Movimenti[++Stato.NumMovimenti] = Mov(1, "01/03/2001", "01/03/2001", 5, "E", "N");
-    EXPECT_TRUE(EseguiEvento(AggiungiMovimento));
-    umask(prima);
-    EXPECT_EQ(fs::file_size(dati / "12.MOV"), RecMovimento::Lunghezza);
-    int visti = 0;
-    for (const auto& voce : fs::recursive_directory_iterator(radice)) {
-        struct stat info;
-        ASSERT_EQ(lstat(voce.path().c_str(), &info), 0);
-        EXPECT_EQ(info.st_mode & 07777, voce.is_directory() ? 0700u : 0600u) << voce.path();
-        ++visti;
-    }
-    EXPECT_GT(visti, 30);
 }
 } // namespace
