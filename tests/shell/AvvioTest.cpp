@@ -102,22 +102,20 @@ TEST_F(AvvioTest, ContoDiAvvioEFilePrivati) {
     EXPECT_GT(visti, 30);
 }
 
-// Wherever the start fails, the box comes and then the window, with no account loaded.
+// Wherever the start fails, the box comes and then the window, with no account loaded and the
+// account chooser within reach.
 TEST_F(AvvioTest, UnGuastoAllAvvioLasciaLaFinestra) {
     RecImposta altrove, senzaTrattino;
     altrove.PerAvv = (radice / "manca").string() + "/";
     senzaTrattino.Combo1 = "Euro";
+    auto file = [](const fs::path& nome, Byte byte) { return [=] { ScriviFile(nome, byte); }; };
+    auto cartella = [](const fs::path& nome) {
+        return [=] { fs::remove(nome), fs::create_directory(nome); };
+    };
     const std::pair<std::function<void()>, int> casi[] = {
-        {[&] { ScriviImposta(altrove); }, 76},
-        {[&] {
-             ScriviFile(dati / "RecConti.dat", {101, 0});
-         },
-         9},
-        {[&] {
-             fs::remove(programma / "Valute.DAT"), fs::create_directory(programma / "Valute.DAT");
-         },
-         52},
-        {[&] { ScriviImposta(senzaTrattino); }, 5},
+        {[&] { ScriviImposta(altrove); }, 76},         {file(dati / "RecConti.dat", {101, 0}), 9},
+        {file(programma / "RecCausa.dat", {0xFF}), 9}, // one byte: 255 causali
+        {cartella(programma / "Valute.DAT"), 52},      {[&] { ScriviImposta(senzaTrattino); }, 5},
     };
     for (const auto& [guasta, numero] : casi) {
         SCOPED_TRACE(numero);
@@ -128,8 +126,10 @@ TEST_F(AvvioTest, UnGuastoAllAvvioLasciaLaFinestra) {
         Avvia();
         EXPECT_EQ(Messaggi(), (std::vector<std::string>{"FAILURE " + std::to_string(numero) + " " +
                                                         DescrizioneErrore(numero)}));
-        EXPECT_TRUE(Finestra().S.Mostrato());
         EXPECT_EQ(Stato.NumConti, 0);
+        ComandiConto(false);
+        EXPECT_TRUE(Clic(Finestra().ApriConto));
+        EXPECT_TRUE(app->Form7.S.Mostrato());
     }
 }
 } // namespace
