@@ -11,7 +11,10 @@
 namespace {
 using AvvioTest = Ambiente;
 
-TEST_F(AvvioTest, PrimoAvvioInstallaIFileFornitiSenzaToccareQuelliPresenti) {
+// The first start installs the files that come with the program, leaving those present alone.
+// A later one seeds nothing, even with Valute.DAT lost: no welcome, no Euro, the causali as they
+// were.
+TEST_F(AvvioTest, IlPrimoAvvioInstallaIlSecondoNonSemina) {
     fs::create_directories(programma);
     ScriviFile(programma / "3.ICO", {'m', 'i', 'a'});
     Avvia();
@@ -19,12 +22,7 @@ TEST_F(AvvioTest, PrimoAvvioInstallaIFileFornitiSenzaToccareQuelliPresenti) {
     for (const char* nome : {"1.ICO", "15.ICO", "Help01.txt"})
         EXPECT_EQ(ContenutoFile(programma / nome), ContenutoFile(forniti / nome)) << nome;
     EXPECT_EQ(ContenutoFile(programma / "3.ICO"), (Byte{'m', 'i', 'a'}));
-}
 
-// A lost Valute.DAT reads as a missing one and seeds nothing: no welcome, no Euro, the causali
-// as they were.
-TEST_F(AvvioTest, UnAvvioSuccessivoNonSeminaNulla) {
-    Avvia();
     Byte causali = ContenutoFile(programma / "Causali.DAT");
     fs::remove(programma / "Valute.DAT");
     Messaggi();
