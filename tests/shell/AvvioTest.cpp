@@ -1,15 +1,41 @@
 // The start of the program: what a first start installs and a later one leaves alone, the
-// stored preferences it follows, the failures it survives, and the modes of what it makes.
+// stored preferences it follows, the currency it takes, the failures it survives, and the modes
+// of what it makes.
 #include "tests/Ambiente.h"
 
 #include "ledger/Registro.h"
 #include "shell/PrimoAvvio.h"
 #include "store/Testo.h"
 
+#include <tuple>
+
 #include <sys/stat.h>
 
 namespace {
-using AvvioTest = Ambiente;
+struct AvvioTest : Ambiente {
+    // A start after the preferences have been stored as `cambia` sets them.
+    void AvviaCon(const std::function<void(RecImposta&)>& cambia) {
+        RecImposta imposta;
+        cambia(imposta);
+        ScriviImposta(imposta);
+        Avvia();
+    }
+    // An installation that has started once, with some of the rates entered, started again.
+    void Installa(const std::string& predefinita, const std::string& contoAvvio = "") {
+        Avvia();
+        Messaggi();
+        ScriviValuta(2, "Franco", "Belgio", 40.3399);
+        ScriviValuta(5, "Franco", "Francia", 6.55957);
+        ScriviValuta(7, "Lira", "Italia", 1936.27);
+        AvviaCon(
+            [&](RecImposta& i) { i.decimali = 2, i.Combo1 = predefinita, i.contAvv = contoAvvio; });
+    }
+    void Scegli(const std::string& testo) {
+        const auto& righe = Finestra().Combo1.Righe();
+        int riga = static_cast<int>(std::find(righe.begin(), righe.end(), testo) - righe.begin());
+        EseguiEvento([&] { Finestra().Combo1.SetListIndex(riga); });
+    }
+};
 
 // The first start installs the files that come with the program, leaving those present alone.
 // A later one seeds nothing, even with Valute.DAT lost: no welcome, no Euro, the causali as they
@@ -45,51 +71,83 @@ TEST_F(AvvioTest, PercorsoDatiDalPercorsoMemorizzato) {
     };
     Avvia();
     for (const auto& [memorizzato, atteso] : casi) {
-        RecImposta imposta;
-        imposta.PerAvv = memorizzato;
-        ScriviImposta(imposta);
         fs::create_directories(atteso);
-        Avvia();
+        AvviaCon([&](RecImposta& i) { i.PerAvv = memorizzato; });
         EXPECT_EQ(Finestra().Codice.Text() + "|" + Stato.PercorsoDati, atteso + "|" + atteso);
         EXPECT_TRUE(Messaggi().empty()) << '"' << memorizzato << '"';
     }
 }
 
-// The account of the start, and the modes of all that the start, the opening of the account and
-// its first movement make, under a umask that would leave them open to the group.
-TEST_F(AvvioTest, ContoDiAvvioEFilePrivati) {
+TEST_F(AvvioTest, ValutaPredefinitaCercataPerNome) {
+    const std::tuple<const char*, const char*, double> casi[] = {
+        // No default: line 0, whose text belongs to no record, so the rate stays as it was.
+        {"", " - ", 1},
+        // The line is France's, the rate the first "Franco": Belgium's.
+        {"Franco - Francia", "Franco - Francia", 40.3399},
+        {"  Euro - Unione Europea  ", "Euro - Unione Europea", 1},
+        // No line of a record never written: no choice, and no name to give a rate.
+        {"Yen - Giappone", "", 1},
+    };
+    for (const auto& [predefinita, riga, cambio] : casi) {
+        SCOPED_TRACE(predefinita);
+        Installa(predefinita);
+        EXPECT_EQ(Finestra().Combo1.Text(), riga);
+        EXPECT_EQ(Stato.Cambio, cambio);
+        EXPECT_TRUE(Messaggi().empty());
+        fs::remove_all(programma);
+    }
+}
+
+// The account of the start in Lire, then at each rate the user chooses; and the modes of all
+// that the start, the opening of the account and its first movement make, under a umask that
+// would leave them open to the group.
+TEST_F(AvvioTest, IlContoDiAvvioAlCambioDiOgniScelta) {
     const std::pair<const char*, std::vector<std::string>> casi[] = {
-        {"0", {}},
         {"ABC", {}}, // a letter first: value 0, never opened
         {"123", {"[] il nr. di conto non esiste. ricontrollare i dati inseriti -> OK"}},
         {" 12 ", {}},
     };
     mode_t prima = umask(002);
     Avvia();
-    fs::create_directories(dati);
-    ScriviConto("12", "Banca di Prova", 1500.5);
+    ScriviConto("12", "Banca di Prova", 1000);
+    ScriviIn(dati / "12.MOV", Mov(1, "15/03/2001", "15/03/2001", 1234.56, "E", "N"), 1);
+    ScriviContatore((dati / "12.MOR").string(), 1);
     for (const auto& [memorizzato, messaggi] : casi) {
-        SCOPED_TRACE(std::string("\"") + memorizzato + "\"");
-        RecImposta imposta;
-        imposta.decimali = 2;
-        imposta.contAvv = memorizzato;
-        ScriviImposta(imposta);
-        Avvia();
+        SCOPED_TRACE(memorizzato);
+        Installa("Lira - Italia", memorizzato);
         EXPECT_EQ(Messaggi(), messaggi);
         EXPECT_FALSE(porta.clessidra);
         const bool aperto = Trim(memorizzato) == "12";
         ComandiConto(aperto);
         EXPECT_EQ(app->Form9.S.Mostrato(), aperto);
-        MDIForm1& f = Finestra();
-        EXPECT_EQ(f.Codice.Text() + "|" + f.DescConto.Text() + "|" + f.Saldi(2).Text(),
-                  aperto ? dati.string() + "/12|Banca di Prova|1.500,50" : dati.string() + "/||");
-        // A new account: its files come into being empty.
-        EXPECT_EQ(fs::exists(dati / "12.MOV"), aperto);
     }
-    Stato.Movimenti[++Stato.NumMovimenti] = Mov(1, "01/03/2001", "01/03/2001", 5, "E", "N");
+    // 1000 * 1936,27 = 1.936.270; 1234,56 * 1936,27 = 2.390.441,4912.
+    MDIForm1& f = Finestra();
+    const Controllo& elenco = app->Form9.ElencoMovim;
+    EXPECT_EQ(f.Codice.Text() + "|" + f.DescConto.Text() + "|" + f.Saldi(2).Text(),
+              dati.string() + "/12|Banca di Prova|1.936.270,00");
+    EXPECT_TRUE(elenco.List(0).ends_with("   2.390.441,49 *")) << elenco.List(0);
+    // France's rate, which a line never written then keeps: 1000 * 6,55957 = 6.559,57.
+    Scegli("Franco - Francia");
+    Scegli(" - ");
+    EXPECT_EQ(f.Saldi(2).Text(), "6.559,57");
+    Scegli("Euro - Unione Europea");
+    for (int i : {0, 1, 3, 4})
+        EXPECT_EQ(f.Saldi(i).Text(), "1.234,56") << i;
+    EXPECT_EQ(f.Saldi(2).Text(), "1.000,00");
+    // The availability through whole numbers: 1000 + 1234,56 = 2234,56, rounded to 2235.
+    EXPECT_EQ(f.Saldi(5).Text(), "2.235,00");
+    EXPECT_TRUE(elenco.List(0).ends_with("   1.234,56 *")) << elenco.List(0);
+    // Lira is line 14 of the combo, after eleven lines never written, Euro and two Franchi.
+    fs::remove(programma / "15.ICO");
+    Scegli("Lira - Italia");
+    EXPECT_EQ(Messaggi(), (std::vector<std::string>{"FAILURE 53 " + DescrizioneErrore(53)}));
+    EXPECT_EQ(f.Saldi(2).Text(), "1.000,00");
+
+    Stato.Movimenti[++Stato.NumMovimenti] = Mov(2, "01/03/2001", "01/03/2001", 5, "E", "N");
     EXPECT_TRUE(EseguiEvento(AggiungiMovimento));
     umask(prima);
-    EXPECT_EQ(fs::file_size(dati / "12.MOV"), RecMovimento::Lunghezza);
+    EXPECT_EQ(fs::file_size(dati / "12.MOV"), 2 * RecMovimento::Lunghezza);
     int visti = 0;
     for (const auto& voce : fs::recursive_directory_iterator(radice)) {
         struct stat info;
