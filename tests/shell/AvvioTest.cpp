@@ -37,9 +37,8 @@ struct AvvioTest : Ambiente {
     }
 };
 
-// The first start installs the files that come with the program, leaving those present alone.
-// A later one seeds nothing, even with Valute.DAT lost: no welcome, no Euro, the causali as they
-// were.
+// The first start installs the files that come with the program, leaving those present alone;
+// a later one seeds nothing, even with Valute.DAT lost: no welcome, no Euro, the same causali.
 TEST_F(AvvioTest, IlPrimoAvvioInstallaIlSecondoNonSemina) {
     fs::create_directories(programma);
     ScriviFile(programma / "3.ICO", {'m', 'i', 'a'});
@@ -98,9 +97,8 @@ TEST_F(AvvioTest, ValutaPredefinitaCercataPerNome) {
     }
 }
 
-// The account of the start in Lire, then at each rate the user chooses; and the modes of all
-// that the start, the opening of the account and its first movement make, under a umask that
-// would leave them open to the group.
+// The account of the start in Lire, then at each rate chosen; and the modes of all that the
+// start, the account and its new movement make, under a umask that would open them to the group.
 TEST_F(AvvioTest, IlContoDiAvvioAlCambioDiOgniScelta) {
     const std::pair<const char*, std::vector<std::string>> casi[] = {
         {"ABC", {}}, // a letter first: value 0, never opened
