@@ -30,11 +30,6 @@ struct AvvioTest : Ambiente {
         AvviaCon(
             [&](RecImposta& i) { i.decimali = 2, i.Combo1 = predefinita, i.contAvv = contoAvvio; });
     }
-    void Scegli(const std::string& testo) {
-        const auto& righe = Finestra().Combo1.Righe();
-        int riga = static_cast<int>(std::find(righe.begin(), righe.end(), testo) - righe.begin());
-        EseguiEvento([&] { Finestra().Combo1.SetListIndex(riga); });
-    }
 };
 
 // The first start installs the files that come with the program, leaving those present alone;
@@ -126,10 +121,10 @@ TEST_F(AvvioTest, IlContoDiAvvioAlCambioDiOgniScelta) {
               dati.string() + "/12|Banca di Prova|1.936.270,00");
     EXPECT_TRUE(elenco.List(0).ends_with("   2.390.441,49 *")) << elenco.List(0);
     // France's rate, which a line never written then keeps: 1000 * 6,55957 = 6.559,57.
-    Scegli("Franco - Francia");
-    Scegli(" - ");
+    Seleziona(f.Combo1, "Franco - Francia");
+    Seleziona(f.Combo1, " - ");
     EXPECT_EQ(f.Saldi(2).Text(), "6.559,57");
-    Scegli("Euro - Unione Europea");
+    Seleziona(f.Combo1, "Euro");
     for (int i : {0, 1, 3, 4})
         EXPECT_EQ(f.Saldi(i).Text(), "1.234,56") << i;
     EXPECT_EQ(f.Saldi(2).Text(), "1.000,00");
@@ -138,7 +133,7 @@ TEST_F(AvvioTest, IlContoDiAvvioAlCambioDiOgniScelta) {
     EXPECT_TRUE(elenco.List(0).ends_with("   1.234,56 *")) << elenco.List(0);
     // Lira is line 14 of the combo, after eleven lines never written, Euro and two Franchi.
     fs::remove(programma / "15.ICO");
-    Scegli("Lira - Italia");
+    EXPECT_FALSE(EseguiEvento([&] { f.Combo1.SetListIndex(14); }));
     EXPECT_EQ(Messaggi(), (std::vector<std::string>{"FAILURE 53 " + DescrizioneErrore(53)}));
     EXPECT_EQ(f.Saldi(2).Text(), "1.000,00");
 

@@ -45,7 +45,6 @@ TEST_F(Impostazioni, ColoriScrittiEPresiDagliElenchiAlProssimoAvvio) {
     porta.colori = {ValoreColore({255, 128, 0}), std::nullopt};
     Clic(app->Form5.sfondo);
     Clic(app->Form5.carattere);
-    EXPECT_EQ(app->Form5.esempio.BackColor, 33023);
     Clic(app->Form5.OK);
     // 33023 = 0x80FF: exponent 15, fraction 255 / 32768.
     EXPECT_EQ(ContenutoFile(programma / "colori.col"),
