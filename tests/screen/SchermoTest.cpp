@@ -30,7 +30,7 @@ TEST(Liste, LeRigheAggiunteUnaAllaVoltaOInBloccoEDoveVaLaScelta) {
          -1,
          4},
         {"unsorted at the end", false, {"d", "b"}, {"a", "c"}, {"d", "b", "a", "c"}, 0, -1, 0},
-        {"taken above", false, {"a", "b", "c"}, {}, {"b", "c"}, 2, 0, 1},
+        {"taken just above", false, {"a", "b", "c"}, {}, {"b", "c"}, 1, 0, 0},
         {"taken below", false, {"a", "b", "c"}, {}, {"a", "b"}, 1, 2, 1},
         {"selected taken", false, {"a", "b", "c"}, {}, {"a", "c"}, 1, 1, -1},
     };
@@ -98,20 +98,21 @@ TEST_F(SchermoTest, LoScaricamentoRestituisceIValoriDiProgetto) {
 }
 
 // Only the option turned on clicks, and a click takes the focus where a value set in code
-// doesn't; a disabled one doesn't answer.
+// doesn't; a disabled or hidden one doesn't answer.
 TEST_F(SchermoTest, UnaOpzioneAccesaPerGruppo) {
     Schermo s{"Opzioni", ""};
     Controllo a1{s, TipoControllo::Opzione, "A1"}, a2{s, TipoControllo::Opzione, "A2"};
     Controllo b{s, TipoControllo::Opzione, "B"}, spenta{s, TipoControllo::Opzione, "Spenta"};
+    Controllo nascosta{s, TipoControllo::Opzione, "Nascosta"};
     b.Gruppo = "B";
-    spenta.Enabled = false;
+    spenta.Enabled = nascosta.Visible = false;
     std::string clic, accese;
-    for (Controllo* c : {&a1, &a2, &b, &spenta})
+    for (Controllo* c : {&a1, &a2, &b, &spenta, &nascosta})
         c->Click = [&clic, c] { clic += c->nome; };
-    for (Controllo* c : {&a1, &b, &a2, &spenta})
+    for (Controllo* c : {&a1, &b, &a2, &spenta, &nascosta})
         c->Clicca();
     a1.SetValue(true);
-    for (Controllo* c : {&a1, &a2, &b, &spenta})
+    for (Controllo* c : {&a1, &a2, &b, &spenta, &nascosta})
         if (c->Value()) accese += c->nome;
     EXPECT_EQ(accese, "A1B") << "the other group keeps its choice";
     EXPECT_EQ(clic, "A1BA2A1");
