@@ -21,14 +21,13 @@ struct AvvioTest : Ambiente {
         Avvia();
     }
     // An installation that has started once, with some of the rates entered, started again.
-    void Installa(const std::string& predefinita, const std::string& contoAvvio = "") {
+    void Installa(const std::string& valuta, const std::string& conto = "") {
         Avvia();
         Messaggi();
         ScriviValuta(2, "Franco", "Belgio", 40.3399);
         ScriviValuta(5, "Franco", "Francia", 6.55957);
         ScriviValuta(7, "Lira", "Italia", 1936.27);
-        AvviaCon(
-            [&](RecImposta& i) { i.decimali = 2, i.Combo1 = predefinita, i.contAvv = contoAvvio; });
+        AvviaCon([&](RecImposta& i) { i.decimali = 2, i.Combo1 = valuta, i.contAvv = conto; });
     }
 };
 
