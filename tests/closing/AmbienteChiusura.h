@@ -4,8 +4,11 @@
 // the 12 characters of the owner field of .chi.
 #include "tests/Ambiente.h"
 
+#include "ledger/CaricaConto.h"
+#include "ledger/Registro.h"
+
 class AmbienteChiusura : public AmbienteConto {
-protected:
+  protected:
     void SetUp() override {
         AmbienteConto::SetUp();
         fs::create_directory("prog");
@@ -20,4 +23,11 @@ protected:
     }
 
     static std::string File(const std::string& estensione) { return NomeFileConto(estensione); }
+
+    // The account loaded from its files, as opening it does.
+    static void Apri() {
+        CaricaConto();
+        ElencaPerOperazione();
+        ScriviOrd();
+    }
 };

@@ -4,14 +4,12 @@
 
 #include "closing/CopieBak.h"
 #include "closing/Form18.h"
-#include "ledger/CaricaConto.h"
-#include "ledger/Registro.h"
 
 #include <sys/mount.h>
 
 namespace {
 class Backup : public AmbienteChiusura {
-protected:
+  protected:
     std::map<std::string, Byte> dati;
 
     // Two accounts: the open one, loaded once, and another whose files are plain bytes.
@@ -19,15 +17,15 @@ protected:
         AmbienteChiusura::SetUp();
         ScriviIn(File(".MOV"), Mov(1, "01/03/2001", "01/03/2001", 100, "E", "N"), 1);
         ScriviContatore(File(".MOR"), 1);
-        CaricaConto();
-        ElencaPerOperazione();
-        ScriviOrd();
-        for (std::string e : EstensioniCopia) ScriviFile(RisolviNome("ALTRO" + e), Byte(5, 'x'));
+        Apri();
+        for (std::string e : EstensioniCopia)
+            ScriviFile(RisolviNome("ALTRO" + e), Byte(5, 'x'));
         Stato.NumConti = 2;
         Stato.Conti[1].CodConto = "CONTO12345";
         Stato.Conti[2].CodConto = "ALTRO";
         ScriviContatore(NomeFileDati("RecConti.dat"), 2);
-        for (long i = 1; i <= 2; ++i) ScriviIn(NomeFileDati("Conti.dat"), Stato.Conti[i], i);
+        for (long i = 1; i <= 2; ++i)
+            ScriviIn(NomeFileDati("Conti.dat"), Stato.Conti[i], i);
         dati = Cartella(".");
     }
 
@@ -41,21 +39,21 @@ protected:
     }
 };
 
+// The table of the accounts is that of the data directory, which had none; the rest comes back.
 TEST_F(Backup, AllAccountsRestoredIntoAnEmptyDataDirectory) {
     fs::create_directory("copia");
     Copia("copia", false, 0);
-    EXPECT_EQ(Cartella("copia").size(), 20u);    // the two of the accounts, and 9 for each
+    EXPECT_EQ(Cartella("copia").size(), 20u); // the two of the accounts, and 9 for each
     fs::create_directory("nuova");
     Stato.PercorsoDati = "nuova/";
     porta.risposte.push_back(Risposta::OK);
     Copia("copia", false, 1);
     auto nuova = Cartella("nuova");
-    // The table of the accounts is that of the data directory, which had none.
     EXPECT_TRUE(nuova["RecConti.dat"].empty());
-    nuova.erase("RecConti.dat");
-    nuova.erase("Conti.dat");
-    dati.erase("RecConti.dat");
-    dati.erase("Conti.dat");
+    for (auto* cartella : {&nuova, &dati}) {
+        cartella->erase("RecConti.dat");
+        cartella->erase("Conti.dat");
+    }
     EXPECT_EQ(nuova, dati);
     EXPECT_EQ(Stato.CodContoAperto.Testo() + Str(Stato.SaldoUltimaData), "CONTO12345   100");
     EXPECT_FALSE(app->Form18.S.Caricato());
@@ -77,8 +75,10 @@ TEST_F(Backup, FullDiskOrMissingFolderReachTheDiskFailureDialogue) {
         {"pieno", {Risposta::Ignora}, {pieno + "Ignora"}, 8},
         {"pieno", {Risposta::Interrompi}, {pieno + "Interrompi", fine}, 0},
         // Riprova runs the copy again, which is given up; the first run goes on.
-        {"pieno", {Risposta::Riprova, Risposta::Interrompi},
-         {pieno + "Riprova", pieno + "Interrompi", fine}, 8},
+        {"pieno",
+         {Risposta::Riprova, Risposta::Interrompi},
+         {pieno + "Riprova", pieno + "Interrompi", fine},
+         8},
         {"manca", {}, {"[Errore Disco] Il percorso non esiste -> OK", fine}, 0},
     };
     for (const Caso& caso : casi) {
@@ -87,10 +87,10 @@ TEST_F(Backup, FullDiskOrMissingFolderReachTheDiskFailureDialogue) {
         ScriviFile("pieno/CONTO12345.Ord", {});
         if (mount("/dev/full", "pieno/CONTO12345.Ord", nullptr, MS_BIND, nullptr) != 0)
             GTEST_SKIP() << "no right to mount";
-        porta.messaggi.clear();
+        Messaggi();
         porta.risposte.assign(caso.risposte.begin(), caso.risposte.end());
         Copia(caso.cartella, true, 0);
-        EXPECT_EQ(porta.messaggi, caso.messaggi);
+        EXPECT_EQ(Messaggi(), caso.messaggi);
         EXPECT_EQ(Cartella("pieno").size(), caso.copiati);
         EXPECT_EQ(app->Form18.S.Caricato(), caso.copiati == 0);
         EXPECT_EQ(Cartella("."), dati);
