@@ -32,23 +32,9 @@ class Chiusura : public AmbienteChiusura {
         for (const RecMovimento& m : movimenti)
             ScriviIn(File(".MOV"), m, m.NrOper);
         ScriviContatore(File(".MOR"), 11);
-        ScriviIn(File(".CAR"),
-                 RecCarnet{.MovCosto = 1,
-                           .NrCarnet = 1,
-                           .DataCarnet = "01/01/2001",
-                           .NrInf = 1001,
-                           .NrFinale = 1010,
-                           .Chiuso = "N"},
-                 1);
-        ScriviIn(File(".CAR"),
-                 RecCarnet{.MovCosto = 4,
-                           .NrCarnet = 2,
-                           .DataCarnet = "01/02/2001",
-                           .NrInf = 2001,
-                           .NrFinale = 2010,
-                           .Chiuso = "N",
-                           .FogliFuori = 9},
-                 2);
+        // Books: cost movement, number, date, cost, first and last cheque, closed, sheets out.
+        ScriviIn(File(".CAR"), RecCarnet{1, 1, "01/01/2001", 0, 1001, 1010, "N", 0}, 1);
+        ScriviIn(File(".CAR"), RecCarnet{4, 2, "01/02/2001", 0, 2001, 2010, "N", 9}, 2);
         // Issued: 1001 and 1002 (movements 2, 3), 2001 (movement 5).
         const std::map<std::int16_t, std::int16_t> emessi = {{1, 2}, {2, 3}, {11, 5}};
         for (std::int16_t f = 1; f <= 20; ++f) {

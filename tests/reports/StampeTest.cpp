@@ -36,16 +36,10 @@ struct StampeTest : AmbienteConto {
     }
 };
 
-// Cheque 101 of book 3, out for 200 to Mario Rossi.
+// Cheque 101 of book 3, out for 200 to Mario Rossi. Sheets in field order: movement, sheet,
+// book, number, date, amount, payee, note, aligned, available, cancelled.
 RecAssegno Emesso() {
-    return {.NrCarnet = 3,
-            .NrAssegno = 101,
-            .DataAssegno = "15/02/2001",
-            .IMPORTO = 200,
-            .traente = "Mario Rossi",
-            .NoteAss = "Affitto",
-            .Allineato = "N",
-            .AssegnoAnnullato = "N"};
+    return {0, 0, 3, 101, "15/02/2001", 200, "Mario Rossi", "Affitto", "N", "", "N"};
 }
 
 // The empty lines just above the final rule: the end fill and the one line after it.
@@ -124,36 +118,20 @@ TEST_F(StampeTest, LaPaginaSiVoltaAlLimiteENonPrima) {
 TEST_F(StampeTest, LeRigheDegliElenchi) {
     Stato.NumAssegni = 3;
     Stato.Assegni[1] = Emesso();
-    Stato.Assegni[2] = {.NrCarnet = 3,
-                        .NrAssegno = 102,
-                        .DataAssegno = "20/02/2001",
-                        .NoteAss = "Errato",
-                        .Allineato = "S",
-                        .AssegnoAnnullato = "S"};
-    Stato.Assegni[3] = {.NrCarnet = 3,
-                        .NrAssegno = 103,
-                        .DataAssegno = "01/03/2001",
-                        .Allineato = "N",
-                        .AssegnoAnnullato = "N"};
+    Stato.Assegni[2] = {0, 0, 3, 102, "20/02/2001", 0, "", "Errato", "S", "", "S"};
+    Stato.Assegni[3] = {0, 0, 3, 103, "01/03/2001", 0, "", "", "N", "", "N"};
     for (long j = 1; j <= 3; ++j)
         ScriviIn(File(".FOG"), Stato.Assegni[j], j);
     Stato.NumCarnet = 1;
-    ScriviIn(File(".CAR"),
-             RecCarnet{.NrCarnet = 3,
-                       .DataCarnet = "01/02/2001",
-                       .NrInf = 101,
-                       .NrFinale = 110,
-                       .Chiuso = "N",
-                       .FogliFuori = 7},
-             1);
-    Stato.Conti[1] = {.CodConto = "123",
-                      .TipoConto = "Conto corrente",
-                      .NomeBanca = "Banca Uno",
-                      .Fido = 1500,
-                      .abi = "1234",
-                      .Cab = "5678",
-                      .id = "9"};
-    ScriviIn(NomeFileDati("Conti.dat"), Stato.Conti[1], 1);
+    ScriviIn(File(".CAR"), RecCarnet{0, 3, "01/02/2001", 0, 101, 110, "N", 7}, 1);
+    RecConto& conto = Stato.Conti[1];
+    conto.TipoConto = "Conto corrente";
+    conto.NomeBanca = "Banca Uno";
+    conto.Fido = 1500;
+    conto.abi = "1234";
+    conto.Cab = "5678";
+    conto.id = "9";
+    ScriviIn(NomeFileDati("Conti.dat"), conto, 1);
     ScriviIn(File(".TOT"), RecTotali{.SaldoOperazione = -200}, 1);
     Ord({Mov(1, "15/02/2001", "16/02/2001", 200, "U", "N", "AS", "101"),
          Mov(2, "16/02/2001", "16/02/2001", 9, "U", "N", "PR", "101")});
