@@ -7,8 +7,9 @@
 #include "store/Testo.h"
 
 namespace {
-// Today 05/07/2001, close at 15/07/2001. Book 1 (cheques 1001-1010, none out, the unissued
-// sheets undated, which counts as early) is finished; book 2 (2001-2010, 9 out) stays.
+// Today 05/07/2001, close at 15/07/2001. Book 1 (cheques 1001-1010, none out, dated on the
+// close day, the unissued sheets undated, which counts as early) is finished; book 2
+// (2001-2010, 9 out) stays.
 // Movement 7 is suspended and its NrDoc names cheque 2002; 10 is after today.
 const std::vector<RecMovimento> movimenti = {
     Mov(1, "01/01/2001", "01/01/2001", 10, "U", "N", "CA", "1"),
@@ -33,7 +34,7 @@ class Chiusura : public AmbienteChiusura {
             ScriviIn(File(".MOV"), m, m.NrOper);
         ScriviContatore(File(".MOR"), 11);
         // Books: cost movement, number, date, cost, first and last cheque, closed, sheets out.
-        ScriviIn(File(".CAR"), RecCarnet{1, 1, "01/01/2001", 0, 1001, 1010, "N", 0}, 1);
+        ScriviIn(File(".CAR"), RecCarnet{1, 1, "15/07/2001", 0, 1001, 1010, "N", 0}, 1);
         ScriviIn(File(".CAR"), RecCarnet{4, 2, "01/02/2001", 0, 2001, 2010, "N", 9}, 2);
         // Issued: 1001 and 1002 (movements 2, 3), 2001 (movement 5).
         const std::map<std::int16_t, std::int16_t> emessi = {{1, 2}, {2, 3}, {11, 5}};
