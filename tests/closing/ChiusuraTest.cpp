@@ -1,10 +1,16 @@
-// The periodic close worked out by hand, its list on paper, and its undo, whole or after a cut.
-#include "AmbienteChiusura.h"
+// The periodic close worked out by hand, its list on paper, and its undo, whole or after a cut;
+// the backup of Form18 into a folder that fills up or isn't there.
+#include "tests/Ambiente.h"
 
 #include "closing/AnnullaChiusura.h"
 #include "closing/Chiusura.h"
 #include "closing/CopieBak.h"
+#include "closing/Form18.h"
+#include "ledger/CaricaConto.h"
+#include "ledger/Registro.h"
 #include "store/Testo.h"
+
+#include <sys/mount.h>
 
 namespace {
 // Today 05/07/2001, close at 15/07/2001. Book 1 (cheques 1001-1010, none out, dated on the
@@ -24,12 +30,19 @@ const std::vector<RecMovimento> movimenti = {
     Mov(10, "10/07/2001", "10/07/2001", 40, "U", "N", "PR", ""),
     Mov(11, "20/07/2001", "20/07/2001", 25, "E", "N", "VS", "")};
 
-class Chiusura : public AmbienteChiusura {
+// The open account's folder is the current directory, the data directory "./" and the program
+// directory "prog/", so that "./" and the 10-character stem fill exactly the 12 characters of
+// the owner field of .chi.
+class Chiusura : public AmbienteConto {
   protected:
     std::map<std::string, Byte> originali;
 
     void SetUp() override {
-        AmbienteChiusura::SetUp();
+        AmbienteConto::SetUp();
+        fs::create_directory("prog");
+        Stato.PercorsoDati = "./";
+        Stato.PercorsoProgramma = "prog/";
+        Stato.CodContoAperto = "CONTO12345";
         for (const RecMovimento& m : movimenti)
             ScriviIn(File(".MOV"), m, m.NrOper);
         ScriviContatore(File(".MOR"), 11);
@@ -52,6 +65,20 @@ class Chiusura : public AmbienteChiusura {
         ScriviIn(File(".RIP"), RecRiporto{"31/12/2000", 1000}, 1);
         Apri();
         originali = Cartella(".");
+    }
+
+    void TearDown() override {
+        GuastoAllaScrittura(0);
+        AmbienteConto::TearDown();
+    }
+
+    static std::string File(const std::string& estensione) { return NomeFileConto(estensione); }
+
+    // The account loaded from its files, as opening it does.
+    static void Apri() {
+        CaricaConto();
+        ElencaPerOperazione();
+        ScriviOrd();
     }
 
     // The owner text that lets the undo through, with the carried balance of before the close.
@@ -170,5 +197,48 @@ TEST_F(Chiusura, PagesOfFiftyEightLines) {
     EXPECT_NE(pagina[18].find("          58,00 "), std::string::npos); // after 17 of head
     EXPECT_EQ(carta[carta.size() - 2],
               "|" + std::string(42, ' ') + "Pagina 2                 ....fine stampa|");
+}
+
+// The first file of the account goes to /dev/full, bound in its place, which refuses every
+// write, even root's; a missing folder fails at once. Nothing in the data directory changes.
+// Binding a file needs the right to mount: without it there is nothing to test.
+TEST_F(Chiusura, BackupOnAFullDiskOrAMissingFolder) {
+    struct Caso {
+        const char* cartella;
+        std::vector<Risposta> risposte;
+        std::vector<std::string> messaggi;
+        std::size_t copiati;
+    };
+    const std::string pieno = "[Errore Disco] Disco pieno. Continuare? -> ";
+    const std::string fine = "[] Errore irrecuperabile -> OK";
+    const std::vector<Caso> casi = {
+        {"pieno", {Risposta::Ignora}, {pieno + "Ignora"}, 8},
+        {"pieno", {Risposta::Interrompi}, {pieno + "Interrompi", fine}, 0},
+        // Riprova runs the copy again, which is given up; the first run goes on.
+        {"pieno",
+         {Risposta::Riprova, Risposta::Interrompi},
+         {pieno + "Riprova", pieno + "Interrompi", fine},
+         8},
+        {"manca", {}, {"[Errore Disco] Il percorso non esiste -> OK", fine}, 0},
+    };
+    for (const Caso& caso : casi) {
+        fs::remove_all("pieno");
+        fs::create_directory("pieno");
+        ScriviFile("pieno/CONTO12345.Ord", {});
+        if (mount("/dev/full", "pieno/CONTO12345.Ord", nullptr, MS_BIND, nullptr) != 0)
+            GTEST_SKIP() << "no right to mount";
+        Messaggi();
+        porta.risposte.assign(caso.risposte.begin(), caso.risposte.end());
+        Form18& f = app->Form18;
+        f.S.Carica();
+        f.Scelta.Percorso = caso.cartella;
+        f.ContoAttivo.SetValue(true);
+        CopiaSicurezza();
+        EXPECT_EQ(Messaggi(), caso.messaggi);
+        EXPECT_EQ(Cartella("pieno").size(), caso.copiati);
+        EXPECT_EQ(app->Form18.S.Caricato(), caso.copiati == 0);
+        EXPECT_EQ(Cartella("."), originali);
+        umount("pieno/CONTO12345.Ord");
+    }
 }
 } // namespace
