@@ -54,9 +54,8 @@ int Riempimento(const std::vector<std::string>& r) {
 // the line that opens it. The fill reaches 48 (movements) or 52 (causali) from the last count,
 // plus the one line after it. A cheque's payee line counts without a look at the limit: 50 + the
 // cheque + its payee = 52, so the next movement is the 53rd; from 51 the count steps over 53 and
-// the next movement still breaks the page. The ladder's count starts
-// at 1 and breaks at 55: 53 rows end page 1 with no fill, the 54th opens page 2, filled to 47
-// (46 lines).
+// the next movement still breaks the page. The ladder's count starts at 1 and breaks at 55: 53
+// rows end page 1 with no fill, the 54th opens page 2, filled to 47 (46 lines).
 TEST_F(StampeTest, LaPaginaSiVoltaAlLimiteENonPrima) {
     const RecMovimento cinque = Mov(1, "10/01/2001", "10/01/2001", 5, "E", "S");
     auto movimenti = [&](int n) {
