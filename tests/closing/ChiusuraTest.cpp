@@ -46,14 +46,18 @@ class Chiusura : public AmbienteConto {
         for (const RecMovimento& m : movimenti)
             ScriviIn(File(".MOV"), m, m.NrOper);
         ScriviContatore(File(".MOR"), 11);
-        // Books: cost movement, number, date, cost, first and last cheque, closed, sheets out.
-        ScriviIn(File(".CAR"), RecCarnet{1, 1, "15/07/2001", 0, 1001, 1010, "N", 0}, 1);
-        ScriviIn(File(".CAR"), RecCarnet{4, 2, "01/02/2001", 0, 2001, 2010, "N", 9}, 2);
+        // Books: cost movement, number, date, cost, first and last cheque, closed, sheets out,
+        // cost aligned, reserved.
+        ScriviIn(File(".CAR"), RecCarnet{1, 1, "15/07/2001", 0, 1001, 1010, "N", 0, "", 0}, 1);
+        ScriviIn(File(".CAR"), RecCarnet{4, 2, "01/02/2001", 0, 2001, 2010, "N", 9, "", 0}, 2);
         // Issued: 1001 and 1002 (movements 2, 3), 2001 (movement 5).
         const std::map<std::int16_t, std::int16_t> emessi = {{1, 2}, {2, 3}, {11, 5}};
         for (std::int16_t f = 1; f <= 20; ++f) {
             const std::int16_t c = f > 10 ? 2 : 1;
-            RecAssegno a{.NrFoglio = f, .NrCarnet = c, .NrAssegno = c * 1000 + (f - 1) % 10 + 1};
+            RecAssegno a;
+            a.NrFoglio = f;
+            a.NrCarnet = c;
+            a.NrAssegno = c * 1000 + (f - 1) % 10 + 1;
             if (emessi.count(f)) {
                 a.NrMovimento = emessi.at(f);
                 a.DataAssegno = movimenti[a.NrMovimento - 1].DataOper;

@@ -110,7 +110,9 @@ TEST_F(StampeTest, LaPaginaSiVoltaAlLimiteENonPrima) {
         const auto& carta = porta.carta;
         const auto piede = std::find(carta.begin(), carta.end(), "{page}");
         EXPECT_EQ(std::count(carta.begin(), carta.end(), "{page}") + 1, casi[i].pagine);
-        if (piede != carta.end()) EXPECT_EQ(piede[-1], "|" + Sp(42) + "Pagina 1|");
+        if (piede != carta.end()) {
+            EXPECT_EQ(piede[-1], "|" + Sp(42) + "Pagina 1|");
+        }
         EXPECT_EQ(Riempimento(r), casi[i].riempimento);
         EXPECT_EQ(r.back(), Sp(43) + "Pagina " + std::to_string(casi[i].pagine) + Sp(17) +
                                 ".....fine stampa");
@@ -125,7 +127,7 @@ TEST_F(StampeTest, LeRigheDegliElenchi) {
     for (long j = 1; j <= 3; ++j)
         ScriviIn(File(".FOG"), Stato.Assegni[j], j);
     Stato.NumCarnet = 1;
-    ScriviIn(File(".CAR"), RecCarnet{0, 3, "01/02/2001", 0, 101, 110, "N", 7}, 1);
+    ScriviIn(File(".CAR"), RecCarnet{0, 3, "01/02/2001", 0, 101, 110, "N", 7, "", 0}, 1);
     RecConto& conto = Stato.Conti[1];
     conto.TipoConto = "Conto corrente";
     conto.NomeBanca = "Banca Uno";
@@ -134,7 +136,9 @@ TEST_F(StampeTest, LeRigheDegliElenchi) {
     conto.Cab = "5678";
     conto.id = "9";
     ScriviIn(NomeFileDati("Conti.dat"), conto, 1);
-    ScriviIn(File(".TOT"), RecTotali{.SaldoOperazione = -200}, 1);
+    RecTotali totali;
+    totali.SaldoOperazione = -200;
+    ScriviIn(File(".TOT"), totali, 1);
     Ord({Mov(1, "15/02/2001", "16/02/2001", 200, "U", "N", "AS", "101"),
          Mov(2, "16/02/2001", "16/02/2001", 9, "U", "N", "PR", "101")});
 
