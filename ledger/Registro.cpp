@@ -28,10 +28,17 @@ int NumeroIntero(std::string_view data) { return Intero32(NumeroData(data)); }
 struct DescrizioniInElenco {
     std::vector<std::pair<Fisso<5>, std::string>> lette;    // causali 1 to lette.size()
 
+    // Codes of five plain characters, nearly all of them, compare in one move.
+    static bool Uguali(const Fisso<5>& a, const Fisso<5>& b) {
+        const std::string_view x = a.Vista(), y = b.Vista();
+        if (x.size() != 5 || y.size() != 5) return x == y;
+        return std::memcmp(x.data(), y.data(), 5) == 0;
+    }
+
     // That of the first causale with the movement's code, or nothing when no causale has it.
     std::string_view Di(const Fisso<5>& codice) {
         for (const auto& [codiceCausale, descrizione] : lette)
-            if (codiceCausale == codice) return descrizione;
+            if (Uguali(codiceCausale, codice)) return descrizione;
         for (long j = static_cast<long>(lette.size()) + 1; j <= Stato.NumCausali; ++j) {
             const RecCausale& causale = Stato.Causali[j];
             lette.emplace_back(causale.CodCausale, Left(causale.DescCausale, 20));
@@ -92,18 +99,29 @@ int Caratteri(std::string_view testo) {
 }
 
 char* Copia(char* uscita, std::string_view testo) {
-    for (char c : testo) *uscita++ = c;
-    return uscita;
+    std::memcpy(uscita, testo.data(), testo.size());
+    return uscita + testo.size();
 }
 
-char* Spazi(char* uscita, int n) {
-    for (; n > 0; --n) *uscita++ = ' ';
-    return uscita;
+// A field's text, in one move of its width when it holds a byte a character.
+template <std::size_t N> char* Copia(char* uscita, const Fisso<N>& campo) {
+    const std::string_view testo = campo.Vista();
+    if (testo.size() != N) return Copia(uscita, testo);
+    std::memcpy(uscita, testo.data(), N);
+    return uscita + N;
 }
 
-// Text right-aligned in `n` characters, as AllineaDestra gives it.
-char* ADestra(char* uscita, std::string_view testo, int n) {
-    return Copia(Spazi(uscita, n - Caratteri(testo)), testo);
+template <int N> char* Spazi(char* uscita) {
+    std::memset(uscita, ' ', N);
+    return uscita + N;
+}
+
+// Text right-aligned in `N` characters, as AllineaDestra gives it.
+template <int N> char* ADestra(char* uscita, std::string_view testo) {
+    const int caratteri = Caratteri(testo);
+    if (caratteri >= N) return Copia(uscita, testo);
+    Spazi<N>(uscita);
+    return Copia(uscita + N - caratteri, testo);
 }
 
 // Riga's text, written once into a buffer on the stack and taken as one string. Each number
@@ -134,10 +152,10 @@ std::string Riga(const RecMovimento& m, std::string_view dataChiave, bool marcaA
     const long long chiave = NumeroIntero(dataChiave);
     *uscita++ = chiave < 0 ? '-' : ' ';
     uscita = std::to_chars(uscita, uscita + 12, chiave < 0 ? -chiave : chiave).ptr;
-    uscita = Spazi(uscita, 2);
-    uscita = Copia(uscita, m.DataOper.Vista());
+    uscita = Spazi<2>(uscita);
+    uscita = Copia(uscita, m.DataOper);
     *uscita++ = ' ';
-    uscita = Copia(uscita, m.DataValuta.Vista());
+    uscita = Copia(uscita, m.DataValuta);
     *uscita++ = ' ';
     if (m.NrOper < 0) {
         uscita = Copia(uscita, Format(m.NrOper, "0000"));
@@ -149,14 +167,14 @@ std::string Riga(const RecMovimento& m, std::string_view dataChiave, bool marcaA
     }
     *uscita++ = ' ';
     uscita = Copia(uscita, causale);
-    uscita = Spazi(uscita, 2);
-    uscita = Copia(uscita, m.Sospeso.Vista());
-    uscita = Spazi(uscita, 3);
-    uscita = Copia(uscita, m.D_A.Vista());
-    uscita = Spazi(uscita, 2);
-    uscita = ADestra(uscita, documento, 8);
+    uscita = Spazi<2>(uscita);
+    uscita = Copia(uscita, m.Sospeso);
+    uscita = Spazi<3>(uscita);
+    uscita = Copia(uscita, m.D_A);
+    uscita = Spazi<2>(uscita);
+    uscita = ADestra<8>(uscita, documento);
     *uscita++ = ' ';
-    uscita = ADestra(uscita, importo, 15);
+    uscita = ADestra<15>(uscita, importo);
     if (marcaAnnullato) uscita = Copia(uscita, " *");
     if (m.Sospeso == "N") uscita = Copia(uscita, " *");
     return std::string(inizio, uscita);
