@@ -116,9 +116,8 @@ template <int N> char* Spazi(char* uscita) {
     return uscita + N;
 }
 
-// Text right-aligned in `N` characters, as AllineaDestra gives it.
-template <int N> char* ADestra(char* uscita, std::string_view testo) {
-    const int caratteri = Caratteri(testo);
+// Text of so many characters right-aligned in `N`, as AllineaDestra gives it.
+template <int N> char* ADestra(char* uscita, std::string_view testo, int caratteri) {
     if (caratteri >= N) return Copia(uscita, testo);
     Spazi<N>(uscita);
     return Copia(uscita + N - caratteri, testo);
@@ -172,9 +171,14 @@ std::string Riga(const RecMovimento& m, std::string_view dataChiave, bool marcaA
     uscita = Spazi<3>(uscita);
     uscita = Copia(uscita, m.D_A);
     uscita = Spazi<2>(uscita);
-    uscita = ADestra<8>(uscita, documento);
+    // A field of as many bytes as characters, and an amount written here, are plain ASCII.
+    const bool documentoAscii = m.NrDoc.Vista().size() == LarghezzaCampo(m.NrDoc);
+    uscita = ADestra<8>(uscita, documento,
+                        documentoAscii ? static_cast<int>(documento.size()) : Caratteri(documento));
     *uscita++ = ' ';
-    uscita = ADestra<15>(uscita, importo);
+    uscita = ADestra<15>(uscita, importo,
+                         importoGenerale.empty() ? static_cast<int>(importo.size())
+                                                 : Caratteri(importo));
     if (marcaAnnullato) uscita = Copia(uscita, " *");
     if (m.Sospeso == "N") uscita = Copia(uscita, " *");
     return std::string(inizio, uscita);
