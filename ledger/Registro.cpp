@@ -12,13 +12,15 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
+#include <memory>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 namespace {
 // The date number as a whole number, as most comparisons of the register take it.
-int NumeroIntero(const std::string& data) { return Intero32(NumeroData(data)); }
+int NumeroIntero(std::string_view data) { return Intero32(NumeroData(data)); }
 
 // The descriptions of the causali as the list shows them, their first 20 characters, each
 // taken once for a whole refill rather than once a line. The search reads the causali in the
@@ -26,10 +28,17 @@ int NumeroIntero(const std::string& data) { return Intero32(NumeroData(data)); }
 struct DescrizioniInElenco {
     std::vector<std::pair<Fisso<5>, std::string>> lette;    // causali 1 to lette.size()
 
+    // Codes of five plain characters, nearly all of them, compare in one move.
+    static bool Uguali(const Fisso<5>& a, const Fisso<5>& b) {
+        const std::string_view x = a.Vista(), y = b.Vista();
+        if (x.size() != 5 || y.size() != 5) return x == y;
+        return std::memcmp(x.data(), y.data(), 5) == 0;
+    }
+
     // That of the first causale with the movement's code, or nothing when no causale has it.
     std::string_view Di(const Fisso<5>& codice) {
         for (const auto& [codiceCausale, descrizione] : lette)
-            if (codiceCausale == codice) return descrizione;
+            if (Uguali(codiceCausale, codice)) return descrizione;
         for (long j = static_cast<long>(lette.size()) + 1; j <= Stato.NumCausali; ++j) {
             const RecCausale& causale = Stato.Causali[j];
             lette.emplace_back(causale.CodCausale, Left(causale.DescCausale, 20));
@@ -62,42 +71,63 @@ struct ImportiInElenco {
             generale = Format(importo, Stato.FormatoImporti);
             return generale;
         }
-        char cifre[24];
-        char* fine = std::to_chars(cifre, cifre + sizeof cifre,
-                                   static_cast<std::uint64_t>(intero)).ptr;
-        // At least one integer digit: "0" is the last integer place of the pattern.
-        const int n = static_cast<int>(fine - cifre);
-        const int zeri = std::max(0, decimali + 1 - n);
-        char* uscita = testo;
-        if (importo < 0) *uscita++ = '-';
-        const int interi = n + zeri - decimali;
-        for (int r = interi - 1, i = -zeri; r >= 0; --r, ++i) {
-            *uscita++ = i < 0 ? '0' : cifre[i];
-            if (r > 0 && r % 3 == 0) *uscita++ = '.';
+        // From the last digit back: the decimals, then at least one integer digit, a point
+        // before each group of three.
+        auto n = static_cast<std::uint64_t>(intero);
+        char* const fine = testo + sizeof testo;
+        char* p = fine;
+        for (int d = 0; d < decimali; ++d, n /= 10) *--p = static_cast<char>('0' + n % 10);
+        if (decimali > 0) *--p = ',';
+        for (int gruppo = 0;; n /= 10) {
+            if (gruppo++ == 3) {
+                *--p = '.';
+                gruppo = 1;
+            }
+            *--p = static_cast<char>('0' + n % 10);
+            if (n < 10) break;
         }
-        if (decimali > 0) {
-            *uscita++ = ',';
-            for (int i = interi - zeri; i < n; ++i) *uscita++ = i < 0 ? '0' : cifre[i];
-        }
-        return {testo, static_cast<std::size_t>(uscita - testo)};
+        if (importo < 0) *--p = '-';
+        return {p, static_cast<std::size_t>(fine - p)};
     }
 };
 
-// Text right-aligned in `n` characters, as AllineaDestra gives it; plain ASCII has a
-// character a byte.
-char* ADestra(char* uscita, std::string_view testo, int n) {
+// The characters of a text: plain ASCII has one a byte.
+int Caratteri(std::string_view testo) {
     unsigned char bitAlti = 0;
     for (char c : testo) bitAlti |= static_cast<unsigned char>(c);
-    const int caratteri = bitAlti < 0x80 ? static_cast<int>(testo.size())
-                                          : Len(std::string(testo));
-    if (caratteri < n) uscita = std::fill_n(uscita, n - caratteri, ' ');
-    return std::copy(testo.begin(), testo.end(), uscita);
+    return bitAlti < 0x80 ? static_cast<int>(testo.size()) : Len(std::string(testo));
 }
 
-// Riga's text, written into one string sized once. Each number takes the shortcut its general
-// form would give for it: the date number is a whole number, which Str writes as its digits
-// behind a blank or "-"; a movement's number from 0 up is "0000"'s four digits or more.
-std::string Riga(const RecMovimento& m, const std::string& dataChiave, bool marcaAnnullato,
+char* Copia(char* uscita, std::string_view testo) {
+    std::memcpy(uscita, testo.data(), testo.size());
+    return uscita + testo.size();
+}
+
+// A field's text, in one move of its width when it holds a byte a character.
+template <std::size_t N> char* Copia(char* uscita, const Fisso<N>& campo) {
+    const std::string_view testo = campo.Vista();
+    if (testo.size() != N) return Copia(uscita, testo);
+    std::memcpy(uscita, testo.data(), N);
+    return uscita + N;
+}
+
+template <int N> char* Spazi(char* uscita) {
+    std::memset(uscita, ' ', N);
+    return uscita + N;
+}
+
+// Text of so many characters right-aligned in `N`, as AllineaDestra gives it.
+template <int N> char* ADestra(char* uscita, std::string_view testo, int caratteri) {
+    if (caratteri >= N) return Copia(uscita, testo);
+    Spazi<N>(uscita);
+    return Copia(uscita + N - caratteri, testo);
+}
+
+// Riga's text, written once into a buffer on the stack and taken as one string. Each number
+// takes the shortcut its general form would give for it: the date number is a whole number,
+// which Str writes as its digits behind a blank or "-"; a movement's number from 0 up is
+// "0000"'s four digits or more.
+std::string Riga(const RecMovimento& m, std::string_view dataChiave, bool marcaAnnullato,
                  DescrizioniInElenco& descrizioni, const ImportiInElenco& importi) {
     char testoImporto[40];
     std::string importoGenerale;
@@ -112,46 +142,50 @@ std::string Riga(const RecMovimento& m, const std::string& dataChiave, bool marc
     // The numbers, the blanks between the fields, the padding and the marks: below 80.
     std::size_t limite = 80;
     for (std::string_view campo : campi) limite += campo.size();
-    std::string riga(limite, ' ');
-    char* uscita = riga.data();
-    auto copia = [&uscita](std::string_view testo) {
-        uscita = std::copy(testo.begin(), testo.end(), uscita);
-    };
+    char pila[256];
+    std::unique_ptr<char[]> grande;
+    char* const inizio =
+        limite <= sizeof pila ? pila : (grande = std::make_unique<char[]>(limite)).get();
+    char* uscita = inizio;
 
     const long long chiave = NumeroIntero(dataChiave);
     *uscita++ = chiave < 0 ? '-' : ' ';
     uscita = std::to_chars(uscita, uscita + 12, chiave < 0 ? -chiave : chiave).ptr;
-    uscita += 2;
-    copia(m.DataOper.Vista());
-    ++uscita;
-    copia(m.DataValuta.Vista());
-    ++uscita;
+    uscita = Spazi<2>(uscita);
+    uscita = Copia(uscita, m.DataOper);
+    *uscita++ = ' ';
+    uscita = Copia(uscita, m.DataValuta);
+    *uscita++ = ' ';
     if (m.NrOper < 0) {
-        copia(Format(m.NrOper, "0000"));
+        uscita = Copia(uscita, Format(m.NrOper, "0000"));
     } else {
         char cifre[8];
         char* fine = std::to_chars(cifre, cifre + sizeof cifre, m.NrOper).ptr;
-        if (fine - cifre < 4) uscita = std::fill_n(uscita, 4 - (fine - cifre), '0');
-        uscita = std::copy(cifre, fine, uscita);
+        for (auto k = fine - cifre; k < 4; ++k) *uscita++ = '0';
+        uscita = Copia(uscita, {cifre, static_cast<std::size_t>(fine - cifre)});
     }
-    ++uscita;
-    copia(causale);
-    uscita += 2;
-    copia(m.Sospeso.Vista());
-    uscita += 3;
-    copia(m.D_A.Vista());
-    uscita += 2;
-    uscita = ADestra(uscita, documento, 8);
-    ++uscita;
-    uscita = ADestra(uscita, importo, 15);
-    if (marcaAnnullato) copia(" *");
-    if (m.Sospeso == "N") copia(" *");
-    riga.resize(static_cast<std::size_t>(uscita - riga.data()));
-    return riga;
+    *uscita++ = ' ';
+    uscita = Copia(uscita, causale);
+    uscita = Spazi<2>(uscita);
+    uscita = Copia(uscita, m.Sospeso);
+    uscita = Spazi<3>(uscita);
+    uscita = Copia(uscita, m.D_A);
+    uscita = Spazi<2>(uscita);
+    // A field of as many bytes as characters, and an amount written here, are plain ASCII.
+    const bool documentoAscii = m.NrDoc.Vista().size() == LarghezzaCampo(m.NrDoc);
+    uscita = ADestra<8>(uscita, documento,
+                        documentoAscii ? static_cast<int>(documento.size()) : Caratteri(documento));
+    *uscita++ = ' ';
+    uscita = ADestra<15>(uscita, importo,
+                         importoGenerale.empty() ? static_cast<int>(importo.size())
+                                                 : Caratteri(importo));
+    if (marcaAnnullato) uscita = Copia(uscita, " *");
+    if (m.Sospeso == "N") uscita = Copia(uscita, " *");
+    return std::string(inizio, uscita);
 }
 
 // One movement's effect on the four balances; `quota` carries the sign.
-void Muovi(double quota, const std::string& sospeso, bool contaOperazione, bool contaValuta) {
+void Muovi(double quota, std::string_view sospeso, bool contaOperazione, bool contaValuta) {
     Stato.SaldoUltimaData += quota;
     if (sospeso == "N") Stato.SaldoAllineamento += quota;
     if (contaOperazione) Stato.SaldoOperazione += quota;
@@ -253,9 +287,14 @@ int NumeroDaRiga(const std::string& riga) {
     constexpr std::size_t Inizio = 31, Cifre = 4;
     bool semplice = riga.size() >= Inizio + Cifre;
     if (semplice) {
-        unsigned char bitAlti = 0;
-        for (std::size_t i = 0; i < Inizio; ++i) bitAlti |= static_cast<unsigned char>(riga[i]);
-        semplice = bitAlti < 0x80;
+        // Eight bytes at a time, the last word overlapping the third.
+        std::uint64_t bit = 0;
+        for (std::size_t da : {0, 8, 16, 23}) {
+            std::uint64_t parola;
+            std::memcpy(&parola, riga.data() + da, 8);
+            bit |= parola;
+        }
+        semplice = (bit & 0x8080808080808080u) == 0;
     }
     for (std::size_t i = Inizio; semplice && i < Inizio + Cifre; ++i)
         semplice = riga[i] >= '0' && riga[i] <= '9';

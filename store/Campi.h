@@ -54,6 +54,7 @@ template <std::size_t N> struct Fisso {
     }
 
     operator std::string() const { return std::string(Vista()); }
+    operator std::string_view() const { return Vista(); }
     std::string Testo() const { return std::string(Vista()); }
     // The text without a copy, valid while the field is unchanged.
     std::string_view Vista() const {

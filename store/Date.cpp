@@ -45,16 +45,17 @@ constexpr long kGiorno1970 = 25569;
 
 // The pieces of a well-formed "DD/MM/YYYY", the text of every stored date, read straight:
 // both readings of a date agree on them, and the general one is many times slower.
-bool DataSemplice(const std::string& testo, int& giorno, int& mese, int& anno) {
+bool DataSemplice(std::string_view testo, int& giorno, int& mese, int& anno) {
     if (testo.size() != 10 || testo[2] != '/' || testo[5] != '/') return false;
-    int cifre[10];
-    for (size_t i : {0, 1, 3, 4, 6, 7, 8, 9}) {
-        if (testo[i] < '0' || testo[i] > '9') return false;
-        cifre[i] = testo[i] - '0';
-    }
-    giorno = cifre[0] * 10 + cifre[1];
-    mese = cifre[3] * 10 + cifre[4];
-    anno = ((cifre[6] * 10 + cifre[7]) * 10 + cifre[8]) * 10 + cifre[9];
+    auto cifra = [&testo](std::size_t i) { return static_cast<unsigned>(testo[i] - '0'); };
+    const unsigned g1 = cifra(0), g2 = cifra(1), m1 = cifra(3), m2 = cifra(4), a1 = cifra(6),
+                   a2 = cifra(7), a3 = cifra(8), a4 = cifra(9);
+    // Unsigned: a character below "0" wraps past 9 as well.
+    if (g1 > 9 || g2 > 9 || m1 > 9 || m2 > 9 || a1 > 9 || a2 > 9 || a3 > 9 || a4 > 9)
+        return false;
+    giorno = static_cast<int>(g1 * 10 + g2);
+    mese = static_cast<int>(m1 * 10 + m2);
+    anno = static_cast<int>(((a1 * 10 + a2) * 10 + a3) * 10 + a4);
     return true;
 }
 
@@ -66,14 +67,14 @@ bool SoloCifre(const std::string& testo, size_t minimo, size_t massimo) {
 }
 } // namespace
 
-float NumeroData(const std::string& testo) {
+float NumeroData(std::string_view testo) {
     int giorno, mese, anno;
     // Within the float's whole numbers: 366 * 9999 + 334 + 99 is below 2^24.
     if (DataSemplice(testo, giorno, mese, anno)) {
         int offset = mese >= 1 && mese <= 12 ? OffsetMese(mese, Bisestile(anno)) : 0;
         return static_cast<float>(366 * anno + offset + giorno);
     }
-    return NumeroDataGenerale(testo);
+    return NumeroDataGenerale(std::string(testo));
 }
 
 float NumeroDataGenerale(const std::string& testo) {
@@ -135,7 +136,7 @@ std::string Oggi(const std::string& modello) {
 
 bool DataVuota(const std::string& testo) { return testo == "__/__/____"; }
 
-long GiornoCalendario(const std::string& testo) {
+long GiornoCalendario(std::string_view testo) {
     int giorno, mese, anno;
     if (DataSemplice(testo, giorno, mese, anno) && anno >= 100) {
         using namespace std::chrono;
@@ -144,7 +145,7 @@ long GiornoCalendario(const std::string& testo) {
         if (data.ok()) return sys_days{data}.time_since_epoch().count() + kGiorno1970;
     }
     // Anything else, failures included, as the general reading has it.
-    return GiornoCalendarioGenerale(testo);
+    return GiornoCalendarioGenerale(std::string(testo));
 }
 
 long GiornoCalendarioGenerale(const std::string& testo) {

@@ -3,12 +3,13 @@
 // ordered by their date number, which is not a day count; days between dates come from the
 // calendar conversion.
 #include <string>
+#include <string_view>
 
 // 366 * year + offset of the month + day. The offset of June is 159 (160 in a leap year), not
 // the cumulative 151: stored orders rest on it, so 24 to 30 June number above early July. The
 // pieces are the leading numbers of characters 1-2, 4-5 (3-4 when character 3 isn't "/") and the
 // last four. Failure 6 when the number doesn't fit a float.
-float NumeroData(const std::string& testo);
+float NumeroData(std::string_view testo);
 // The same reading for any text, step by step; NumeroData goes straight to the numbers of a
 // plain "DD/MM/YYYY" and comes here for the rest.
 float NumeroDataGenerale(const std::string& testo);
@@ -37,7 +38,7 @@ bool DataVuota(const std::string& testo);    // exactly "__/__/____"
 // Days since 30/12/1899 of a date "D/M/YYYY" (one or two digits for day and month; a year of
 // two digits is 1930 to 2029). A date that doesn't exist, or a text that is no date, is
 // failure 13.
-long GiornoCalendario(const std::string& testo);
+long GiornoCalendario(std::string_view testo);
 // The same for any text; GiornoCalendario takes a plain "DD/MM/YYYY" straight, and the rest
 // here.
 long GiornoCalendarioGenerale(const std::string& testo);

@@ -69,17 +69,25 @@ template <class R> void LeggiRecord(R& record, long numero, int canale) {
     Decodifica(record, byte);
 }
 
-// Records `da` to `a` into righe[da] to righe[a], with one read: the whole-file loads of the
-// tables go through here. Failure 9 when `righe` doesn't reach `a`.
+// Records `da` to `a` into righe[da] to righe[a]: the whole-file loads of the tables go through
+// here. They come in through one buffer of some 64 KB, a read for each filling, as
+// ScriviRecords writes them: an account of 32767 movements costs 40 reads and no fresh 2.5 MB.
+// Failure 9 when `righe` doesn't reach `a`.
 template <class R> void LeggiRecords(std::vector<R>& righe, long da, long a, int canale) {
     ControllaCanale(canale, R::Lunghezza);
     if (a < da) return;
     if (da < 0 || static_cast<std::size_t>(a) >= righe.size()) Errore(9);
-    std::vector<unsigned char> byte(static_cast<std::size_t>(a - da + 1) * R::Lunghezza);
-    LeggiByte(byte.data(), byte.size(), da, canale);
-    for (long n = da; n <= a; ++n) {
-        Decodifica(righe[static_cast<std::size_t>(n)],
-                   byte.data() + static_cast<std::size_t>(n - da) * R::Lunghezza);
+    constexpr long PerLettura = 65536 / R::Lunghezza;
+    std::vector<unsigned char> byte(
+        static_cast<std::size_t>(std::min(a - da + 1, PerLettura)) * R::Lunghezza);
+    for (long primo = da; primo <= a; primo += PerLettura) {
+        const long ultimo = std::min(a, primo + PerLettura - 1);
+        LeggiByte(byte.data(), static_cast<std::size_t>(ultimo - primo + 1) * R::Lunghezza,
+                  primo, canale);
+        for (long n = primo; n <= ultimo; ++n) {
+            Decodifica(righe[static_cast<std::size_t>(n)],
+                       byte.data() + static_cast<std::size_t>(n - primo) * R::Lunghezza);
+        }
     }
 }
 

@@ -671,6 +671,10 @@ int EseguiCopione(std::istream& copione, std::ostream& uscita, std::ostream& err
             motivo =
                 "line " + std::to_string(interprete.sorgenti.back().numeroRiga) + ": " + e.what();
         }
+        // The process ends next, and the application goes back to the system with it: freed
+        // block by block, the tables and list lines of a big account would cost more than
+        // their opening's sort. It stays reachable from App() till then.
+        static_cast<void>(interprete.applicazione.release());
     }
     uscita.flush();
     if (stato != 0) errori << "marendola-script: " << motivo << '\n';
