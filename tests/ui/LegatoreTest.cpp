@@ -1,13 +1,16 @@
-// The binder on a screen made for the test, with its widgets built here: what the user does
-// reaches the model once, what the model holds reaches the widgets, and the binder's own writes
-// never come back as the user's.
+// The binder on a screen made for the test, one widget of each kind: what the user does reaches
+// the model once, what the model holds reaches the widgets, and the binder's own writes never
+// come back as the user's.
 #include "ui/Legatore.h"
 #include "screen/PiattaformaSenzaSchermo.h"
 #include "screen/Schermo.h"
+#include "store/Colore.h"
 #include "store/Guasto.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QImage>
 #include <QLabel>
@@ -26,6 +29,8 @@
 #include <vector>
 
 namespace {
+
+using Eventi = std::vector<std::string>;
 
 struct Prova {
     Schermo S{"Prova", "Prova del legatore"};
@@ -46,7 +51,7 @@ struct Legatore : testing::Test {
     PiattaformaSenzaSchermo porta;
     Prova p;
     QWidget radice;
-    std::vector<std::string> eventi;
+    Eventi eventi;
 
     template <class W> void Aggiungi(std::initializer_list<const char*> nomi) {
         for (const char* nome : nomi) {
@@ -73,9 +78,8 @@ struct Legatore : testing::Test {
         voce->setObjectName("Voce");
         menu->addAction(voce);
         for (Controllo* c : {&p.Nome, &p.DataOper, &p.Elenco, &p.Valuta, &p.OK}) {
-            std::string n = c->nome;
-            c->Change = [this, n] { eventi.push_back(n + ".Change"); };
-            c->Click = [this, n] { eventi.push_back(n + ".Click"); };
+            c->Change = [this, n = c->nome] { eventi.push_back(n + ".Change"); };
+            c->Click = [this, n = c->nome] { eventi.push_back(n + ".Click"); };
         }
         p.S.Show();
         Lega(p.S, &radice);
@@ -89,11 +93,6 @@ struct Legatore : testing::Test {
         Slega(p.S);
         ImpostaPiattaforma(nullptr);
     }
-    // A click where an option or a check box takes it: on its box, at the left.
-    void Spunta(const char* nome) {
-        auto* w = Widget<QAbstractButton>(nome);
-        QTest::mouseClick(w, Qt::LeftButton, {}, QPoint(6, w->height() / 2));
-    }
     // The model changed by the program's code: the widgets follow at the end of the event.
     void DalModello(const std::function<void()>& f) {
         f();
@@ -101,24 +100,36 @@ struct Legatore : testing::Test {
     }
 };
 
-TEST_F(Legatore, UnCampoPienoNonPrendeAltriTasti) {
+TEST_F(Legatore, IlCampoTroncaMascheraEMostraLImportoFormattato) {
+    auto* nome = Widget<QLineEdit>("Nome");
     DalModello([&] { p.Nome.MaxLength = 3; });
-    auto* campo = Widget<QLineEdit>("Nome");
-    campo->setFocus();
-    QTest::keyClicks(campo, "Rossi");
+    QTest::keyClicks(nome, "Rossi");
     EXPECT_EQ(p.Nome.Text(), "Ros");
-    EXPECT_EQ(campo->text(), "Ros");
-}
+    EXPECT_EQ(nome->text(), "Ros");
 
-// A masked date reads with its blanks, which the program's date checks count on.
-TEST_F(Legatore, UnaDataMascherataSiLeggeConIBlank) {
-    auto* data = Widget<QLineEdit>("DataOper");
-    data->setFocus();
-    QTest::keyClicks(data, "15");
+    // A masked date reads with its blanks, which the program's date checks count on.
+    QTest::keyClicks(Widget<QLineEdit>("DataOper"), "15");
     EXPECT_EQ(p.DataOper.Text(), "15/__/____");
+
+    // 1234,5 in "#,##0.00": thousands grouped with ".", two decimals after ",".
+    DalModello([&] {
+        p.Nome.MaxLength = 0;
+        p.Nome.Formato = "#,##0.00";
+        p.Nome.SetText("1234,5");
+        p.DataOper.SetFocus();
+    });
+    EXPECT_EQ(nome->text(), "1.234,50");
+    DalModello([&] { p.Nome.SetFocus(); });
+    EXPECT_EQ(nome->text(), "1234,5");
+    DalModello([&] {
+        p.Nome.SetText("abc");
+        p.DataOper.SetFocus();
+    });
+    EXPECT_EQ(nome->text(), "abc");
 }
 
-TEST_F(Legatore, LeScrittureDelLegatoreNonTornanoComeEventi) {
+// The selected line of a combo other than the first must show: line 1 of two.
+TEST_F(Legatore, LeScrittureDelProgrammaNonTornanoELaSceltaDellUtenteEUnClic) {
     p.OK.Click = [this] {
         eventi.push_back("OK.Click");
         p.Nome.SetText("scritto dal programma");
@@ -131,36 +142,46 @@ TEST_F(Legatore, LeScrittureDelLegatoreNonTornanoComeEventi) {
     };
     QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
     // Each change once, from the model itself; none again from the widgets written after.
-    EXPECT_EQ(eventi, (std::vector<std::string>{"OK.Click", "Nome.Change", "Valuta.Click",
-                                                "Elenco.Click"}));
+    EXPECT_EQ(eventi, (Eventi{"OK.Click", "Nome.Change", "Valuta.Click", "Elenco.Click"}));
     EXPECT_EQ(Widget<QLineEdit>("Nome")->text(), "scritto dal programma");
-    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentIndex(), 1);
-    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentText(), "Lira - Italia");
+    auto* combo = Widget<QComboBox>("Valuta");
+    EXPECT_EQ(combo->currentIndex(), 1);
+    EXPECT_EQ(combo->currentText(), "Lira - Italia");
+    EXPECT_EQ(Widget<QListView>("Elenco")->currentIndex().row(), 0);
     EXPECT_TRUE(Widget<QRadioButton>("Due")->isChecked());
+
+    // A choice from the lines is a click, not a change of text.
+    eventi.clear();
+    QTest::keyClick(combo, Qt::Key_Up);
+    EXPECT_EQ(p.Valuta.Text(), "Euro - Unione Europea");
+    EXPECT_EQ(eventi, Eventi{"Valuta.Click"});
 }
 
-TEST_F(Legatore, IlFiltroDeiTastiScartaOCambiaIlTasto) {
+TEST_F(Legatore, IlFiltroDeiTastiScartaOCambiaIlTastoAncheNellIncollato) {
     std::vector<int> premuti, rilasciati;
     p.Nome.KeyPress = [&](int& k) {
         premuti.push_back(k);
-        if (k == 'x')
+        if (k == 'x' || k == '/')
             k = 0;
         else if (k >= 'a' && k <= 'z')
             k -= 32;
     };
     p.Nome.KeyUp = [&](int k) { rilasciati.push_back(k); };
     auto* campo = Widget<QLineEdit>("Nome");
-    campo->setFocus();
     QTest::keyClicks(campo, "axb");
+    // A paste between A and B: what the keyboard refuses can't come in that way either.
+    campo->setCursorPosition(1);
+    QApplication::clipboard()->setText("c/x2");
+    campo->paste();
     QTest::keyClick(campo, Qt::Key_Return);
-    EXPECT_EQ(p.Nome.Text(), "AB");
-    EXPECT_EQ(campo->text(), "AB");
-    EXPECT_EQ(premuti, (std::vector<int>{'a', 'x', 'b', TastoInvio}));
+    EXPECT_EQ(p.Nome.Text(), "AC2B");
+    EXPECT_EQ(campo->text(), "AC2B");
+    EXPECT_EQ(premuti, (std::vector<int>{'a', 'x', 'b', 'c', '/', 'x', '2', TastoInvio}));
     EXPECT_EQ(rilasciati, (std::vector<int>{'A', 'X', 'B', TastoInvio}));
 }
 
 TEST_F(Legatore, IlFuocoSegueIlModelloTabEClic) {
-    std::vector<std::string> fuoco;
+    Eventi fuoco;
     p.Nome.LostFocus = [&] { fuoco.push_back("Nome.LostFocus"); };
     p.Spunta.GotFocus = [&] { fuoco.push_back("Spunta.GotFocus"); };
     DalModello([&] {
@@ -174,18 +195,24 @@ TEST_F(Legatore, IlFuocoSegueIlModelloTabEClic) {
 
     DalModello([&] { p.Nome.SetFocus(); });
     fuoco.clear();
-    Spunta("Spunta");
-    EXPECT_EQ(fuoco, (std::vector<std::string>{"Nome.LostFocus", "Spunta.GotFocus"}));
+    // A click where a check box takes it: on its box, at the left.
+    auto* spunta = Widget<QCheckBox>("Spunta");
+    QTest::mouseClick(spunta, Qt::LeftButton, {}, QPoint(6, spunta->height() / 2));
+    EXPECT_EQ(fuoco, (Eventi{"Nome.LostFocus", "Spunta.GotFocus"}));
     EXPECT_TRUE(p.Spunta.Value());
 }
 
-TEST_F(Legatore, UnaListaDiTrentamilaRighe) {
+TEST_F(Legatore, UnaListaDiTrentamilaRigheNeiColoriDellUtente) {
     DalModello([&] {
-        for (int i = 0; i < 30000; ++i) p.Elenco.AddItem("riga " + std::to_string(i));
+        for (int i = 0; i < 30000; ++i)
+            p.Elenco.AddItem("riga " + std::to_string(i));
+        p.Elenco.BackColor = ValoreColore({0, 0, 128});
+        p.Elenco.ForeColor = ValoreColore({255, 255, 0});
     });
     auto* lista = Widget<QListView>("Elenco");
     ASSERT_EQ(lista->model()->rowCount(), 30000);
-    EXPECT_EQ(lista->font().family(), "Courier New");
+    EXPECT_EQ(lista->palette().color(QPalette::Base), QColor(0, 0, 128));
+    EXPECT_EQ(lista->palette().color(QPalette::Text), QColor(255, 255, 0));
 
     int doppi = 0;
     p.Elenco.DblClick = [&] { ++doppi; };
@@ -204,50 +231,37 @@ TEST_F(Legatore, UnaListaDiTrentamilaRighe) {
     EXPECT_EQ(lista->model()->index(0, 0).data().toString(), "riga 1");
 }
 
-TEST_F(Legatore, LaSceltaNellaComboEUnClic) {
-    DalModello([&] {
-        p.Valuta.AddItem("Euro - Unione Europea");
-        p.Valuta.AddItem("Lira - Italia");
-        p.Valuta.SetListIndex(0);
-    });
-    eventi.clear();
-    auto* combo = Widget<QComboBox>("Valuta");
-    combo->setFocus();
-    QTest::keyClick(combo, Qt::Key_Down);
-    EXPECT_EQ(p.Valuta.Text(), "Lira - Italia");
-    // A choice from the lines is a click, not a change of text.
-    EXPECT_EQ(eventi, std::vector<std::string>{"Valuta.Click"});
-}
-
-TEST_F(Legatore, VisibileSuggerimentoEMenuCheSiApre) {
+TEST_F(Legatore, VisibileSuggerimentoImmagineEMenuCheSiApre) {
     auto* saldo = Widget<QLabel>("Saldi_1");
-    DalModello([&] {
-        p.Saldi(1).Visible = false;
-        p.Saldi(1).ToolTipText = "Saldo per data valuta";
-    });
-    EXPECT_FALSE(saldo->isVisible());
-    EXPECT_EQ(saldo->toolTip(), "Saldo per data valuta");
-
-    // A menu pops up only when the user opens it: its visibility is that of its entry.
-    EXPECT_FALSE(Widget<QMenu>("Menu")->isVisible());
-    // The menu's handler runs as it opens and may change its entries before they show.
-    p.Menu.Click = [&] { p.Voce.Enabled = false; };
-    emit Widget<QMenu>("Menu")->aboutToShow();
-    EXPECT_FALSE(Widget<QAction>("Voce")->isEnabled());
-    DalModello([&] { p.Menu.Visible = false; });
-    EXPECT_FALSE(Widget<QMenu>("Menu")->menuAction()->isVisible());
-}
-
-TEST_F(Legatore, LImmagineMostraIlFileDelTesto) {
     QTemporaryDir cartella;
     QString file = cartella.filePath("15.png");
     QImage bandiera(16, 11, QImage::Format_RGB32);
     bandiera.fill(Qt::blue);
     ASSERT_TRUE(bandiera.save(file));
-    DalModello([&] { p.Bandiera.SetText(file.toStdString()); });
+    DalModello([&] {
+        p.Saldi(1).Visible = false;
+        p.Saldi(1).ToolTipText = "Saldo per data valuta";
+        p.Bandiera.SetText(file.toStdString());
+    });
+    EXPECT_FALSE(saldo->isVisible());
+    EXPECT_TRUE(Widget<QLabel>("Saldi_0")->isVisible());
+    EXPECT_EQ(saldo->toolTip(), "Saldo per data valuta");
     EXPECT_EQ(Widget<QLabel>("Bandiera")->pixmap().size(), QSize(16, 11));
     DalModello([&] { p.Bandiera.SetText(""); });
     EXPECT_TRUE(Widget<QLabel>("Bandiera")->pixmap().isNull());
+
+    // A menu pops up only when the user opens it; its handler runs as it opens and may change
+    // its entries before they show.
+    EXPECT_FALSE(Widget<QMenu>("Menu")->isVisible());
+    p.Menu.Click = [&] { p.Voce.Enabled = false; };
+    emit Widget<QMenu>("Menu")->aboutToShow();
+    EXPECT_FALSE(Widget<QAction>("Voce")->isEnabled());
+    DalModello([&] { p.Voce.Enabled = true; });
+    p.Voce.Click = [&] { eventi.push_back("Voce.Click"); };
+    Widget<QAction>("Voce")->trigger();
+    EXPECT_EQ(eventi, Eventi{"Voce.Click"});
+    DalModello([&] { p.Menu.Visible = false; });
+    EXPECT_FALSE(Widget<QMenu>("Menu")->menuAction()->isVisible());
 }
 
 TEST_F(Legatore, UnGuastoNelGestoreVaAllaPiattaformaEIlProgrammaProsegue) {
@@ -255,9 +269,8 @@ TEST_F(Legatore, UnGuastoNelGestoreVaAllaPiattaformaEIlProgrammaProsegue) {
     QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
     p.OK.Click = [this] { eventi.push_back("dopo"); };
     QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
-    EXPECT_EQ(porta.messaggi,
-              std::vector<std::string>{"FAILURE 9 Indice non compreso nell'intervallo"});
-    EXPECT_EQ(eventi, std::vector<std::string>{"dopo"});
+    EXPECT_EQ(porta.messaggi, Eventi{"FAILURE 9 Indice non compreso nell'intervallo"});
+    EXPECT_EQ(eventi, Eventi{"dopo"});
 }
 
 } // namespace

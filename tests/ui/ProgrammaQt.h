@@ -5,6 +5,7 @@
 #include "ui/Partenza.h"
 #include "ui/PiattaformaQt.h"
 
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -34,8 +35,7 @@ struct ProgrammaQt : testing::Test {
     }
     void TearDown() override { ImpostaPiattaforma(nullptr); }
 
-    template <class W> W* In(const Schermo& s, const char* nome) {
-        QWidget* finestra = porta.FinestraDi(s);
-        return finestra ? finestra->findChild<W*>(nome) : nullptr;
+    template <class W> W* Principale(const char* nome) {
+        return porta.FinestraPrincipale()->findChild<W*>(nome);
     }
 };
