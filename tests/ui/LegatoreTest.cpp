@@ -7,26 +7,10 @@
 #include "store/Colore.h"
 #include "store/Guasto.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QImage>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QMenu>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace {
 
@@ -47,6 +31,8 @@ struct Prova {
     Controllo Menu{S, TipoControllo::Menu, "Menu", "&Menu"};
 };
 
+// The widgets follow the model at the end of each event; a test that changes the model itself
+// calls AggiornaViste() as that end.
 struct Legatore : testing::Test {
     PiattaformaSenzaSchermo porta;
     Prova p;
@@ -77,7 +63,7 @@ struct Legatore : testing::Test {
         auto* voce = new QAction(&radice);
         voce->setObjectName("Voce");
         menu->addAction(voce);
-        for (Controllo* c : {&p.Nome, &p.DataOper, &p.Elenco, &p.Valuta, &p.OK}) {
+        for (Controllo* c : {&p.Nome, &p.DataOper, &p.Elenco, &p.Valuta, &p.OK, &p.Voce}) {
             c->Change = [this, n = c->nome] { eventi.push_back(n + ".Change"); };
             c->Click = [this, n = c->nome] { eventi.push_back(n + ".Click"); };
         }
@@ -93,16 +79,12 @@ struct Legatore : testing::Test {
         Slega(p.S);
         ImpostaPiattaforma(nullptr);
     }
-    // The model changed by the program's code: the widgets follow at the end of the event.
-    void DalModello(const std::function<void()>& f) {
-        f();
-        AggiornaViste();
-    }
 };
 
 TEST_F(Legatore, IlCampoTroncaMascheraEMostraLImportoFormattato) {
     auto* nome = Widget<QLineEdit>("Nome");
-    DalModello([&] { p.Nome.MaxLength = 3; });
+    p.Nome.MaxLength = 3;
+    AggiornaViste();
     QTest::keyClicks(nome, "Rossi");
     EXPECT_EQ(p.Nome.Text(), "Ros");
     EXPECT_EQ(nome->text(), "Ros");
@@ -111,24 +93,21 @@ TEST_F(Legatore, IlCampoTroncaMascheraEMostraLImportoFormattato) {
     QTest::keyClicks(Widget<QLineEdit>("DataOper"), "15");
     EXPECT_EQ(p.DataOper.Text(), "15/__/____");
 
-    // 1234,5 in "#,##0.00": thousands grouped with ".", two decimals after ",".
-    DalModello([&] {
-        p.Nome.MaxLength = 0;
-        p.Nome.Formato = "#,##0.00";
-        p.Nome.SetText("1234,5");
-        p.DataOper.SetFocus();
-    });
-    EXPECT_EQ(nome->text(), "1.234,50");
-    DalModello([&] { p.Nome.SetFocus(); });
-    EXPECT_EQ(nome->text(), "1234,5");
-    DalModello([&] {
-        p.Nome.SetText("abc");
-        p.DataOper.SetFocus();
-    });
-    EXPECT_EQ(nome->text(), "abc");
+    // 1234,5 in "#,##0.00": thousands grouped with ".", two decimals after ","; as typed while
+    // the field has the focus, and a text that is no amount as it stands.
+    p.Nome.MaxLength = 0;
+    p.Nome.Formato = "#,##0.00";
+    const std::tuple<const char*, Controllo*, const char*> casi[] = {
+        {"1234,5", &p.DataOper, "1.234,50"}, {"1234,5", &p.Nome, "1234,5"}, {"abc", &p.OK, "abc"}};
+    for (auto [testo, fuoco, mostrato] : casi) {
+        p.Nome.SetText(testo);
+        fuoco->SetFocus();
+        AggiornaViste();
+        EXPECT_EQ(nome->text(), mostrato) << testo;
+    }
 }
 
-// The selected line of a combo other than the first must show: line 1 of two.
+// The selected line of a combo must show when it is not the first: line 1 of two.
 TEST_F(Legatore, LeScrittureDelProgrammaNonTornanoELaSceltaDellUtenteEUnClic) {
     p.OK.Click = [this] {
         eventi.push_back("OK.Click");
@@ -181,34 +160,32 @@ TEST_F(Legatore, IlFiltroDeiTastiScartaOCambiaIlTastoAncheNellIncollato) {
 }
 
 TEST_F(Legatore, IlFuocoSegueIlModelloTabEClic) {
-    Eventi fuoco;
-    p.Nome.LostFocus = [&] { fuoco.push_back("Nome.LostFocus"); };
-    p.Spunta.GotFocus = [&] { fuoco.push_back("Spunta.GotFocus"); };
-    DalModello([&] {
-        p.Nome.SetFocus();
-        p.DataOper.Enabled = false;
-    });
+    p.Nome.LostFocus = [this] { eventi.push_back("Nome.LostFocus"); };
+    p.Spunta.GotFocus = [this] { eventi.push_back("Spunta.GotFocus"); };
+    p.Nome.SetFocus();
+    p.DataOper.Enabled = false;
+    AggiornaViste();
     ASSERT_TRUE(Widget<QLineEdit>("Nome")->hasFocus());
     QTest::keyClick(Widget<QLineEdit>("Nome"), Qt::Key_Tab);
     EXPECT_EQ(p.S.Fuoco(), &p.Elenco);
     EXPECT_TRUE(Widget<QListView>("Elenco")->hasFocus());
 
-    DalModello([&] { p.Nome.SetFocus(); });
-    fuoco.clear();
+    p.Nome.SetFocus();
+    AggiornaViste();
+    eventi.clear();
     // A click where a check box takes it: on its box, at the left.
     auto* spunta = Widget<QCheckBox>("Spunta");
     QTest::mouseClick(spunta, Qt::LeftButton, {}, QPoint(6, spunta->height() / 2));
-    EXPECT_EQ(fuoco, (Eventi{"Nome.LostFocus", "Spunta.GotFocus"}));
+    EXPECT_EQ(eventi, (Eventi{"Nome.LostFocus", "Spunta.GotFocus"}));
     EXPECT_TRUE(p.Spunta.Value());
 }
 
 TEST_F(Legatore, UnaListaDiTrentamilaRigheNeiColoriDellUtente) {
-    DalModello([&] {
-        for (int i = 0; i < 30000; ++i)
-            p.Elenco.AddItem("riga " + std::to_string(i));
-        p.Elenco.BackColor = ValoreColore({0, 0, 128});
-        p.Elenco.ForeColor = ValoreColore({255, 255, 0});
-    });
+    for (int i = 0; i < 30000; ++i)
+        p.Elenco.AddItem("riga " + std::to_string(i));
+    p.Elenco.BackColor = ValoreColore({0, 0, 128});
+    p.Elenco.ForeColor = ValoreColore({255, 255, 0});
+    AggiornaViste();
     auto* lista = Widget<QListView>("Elenco");
     ASSERT_EQ(lista->model()->rowCount(), 30000);
     EXPECT_EQ(lista->palette().color(QPalette::Base), QColor(0, 0, 128));
@@ -222,55 +199,57 @@ TEST_F(Legatore, UnaListaDiTrentamilaRigheNeiColoriDellUtente) {
     EXPECT_EQ(p.Elenco.ListIndex(), 2);
     EXPECT_EQ(doppi, 1);
 
-    DalModello([&] {
-        p.Elenco.SetListIndex(29999);
-        p.Elenco.RemoveItem(0);
-    });
+    p.Elenco.SetListIndex(29999);
+    p.Elenco.RemoveItem(0);
+    AggiornaViste();
     EXPECT_EQ(lista->model()->rowCount(), 29999);
     EXPECT_EQ(lista->currentIndex().row(), 29998);
     EXPECT_EQ(lista->model()->index(0, 0).data().toString(), "riga 1");
 }
 
 TEST_F(Legatore, VisibileSuggerimentoImmagineEMenuCheSiApre) {
-    auto* saldo = Widget<QLabel>("Saldi_1");
     QTemporaryDir cartella;
     QString file = cartella.filePath("15.png");
     QImage bandiera(16, 11, QImage::Format_RGB32);
     bandiera.fill(Qt::blue);
     ASSERT_TRUE(bandiera.save(file));
-    DalModello([&] {
-        p.Saldi(1).Visible = false;
-        p.Saldi(1).ToolTipText = "Saldo per data valuta";
-        p.Bandiera.SetText(file.toStdString());
-    });
+    p.Saldi(1).Visible = false;
+    p.Saldi(1).ToolTipText = "Saldo per data valuta";
+    p.Bandiera.SetText(file.toStdString());
+    AggiornaViste();
+    auto* saldo = Widget<QLabel>("Saldi_1");
     EXPECT_FALSE(saldo->isVisible());
     EXPECT_TRUE(Widget<QLabel>("Saldi_0")->isVisible());
     EXPECT_EQ(saldo->toolTip(), "Saldo per data valuta");
     EXPECT_EQ(Widget<QLabel>("Bandiera")->pixmap().size(), QSize(16, 11));
-    DalModello([&] { p.Bandiera.SetText(""); });
+    p.Bandiera.SetText("");
+    AggiornaViste();
     EXPECT_TRUE(Widget<QLabel>("Bandiera")->pixmap().isNull());
 
     // A menu pops up only when the user opens it; its handler runs as it opens and may change
     // its entries before they show.
-    EXPECT_FALSE(Widget<QMenu>("Menu")->isVisible());
-    p.Menu.Click = [&] { p.Voce.Enabled = false; };
-    emit Widget<QMenu>("Menu")->aboutToShow();
-    EXPECT_FALSE(Widget<QAction>("Voce")->isEnabled());
-    DalModello([&] { p.Voce.Enabled = true; });
-    p.Voce.Click = [&] { eventi.push_back("Voce.Click"); };
-    Widget<QAction>("Voce")->trigger();
+    auto* menu = Widget<QMenu>("Menu");
+    auto* voce = Widget<QAction>("Voce");
+    EXPECT_FALSE(menu->isVisible());
+    EXPECT_EQ(menu->title() + voce->text(), "&Menu&Voce");
+    p.Menu.Click = [this] { p.Voce.Enabled = false; };
+    emit menu->aboutToShow();
+    EXPECT_FALSE(voce->isEnabled());
+    p.Voce.Enabled = true;
+    p.Menu.Visible = false;
+    AggiornaViste();
+    voce->trigger();
     EXPECT_EQ(eventi, Eventi{"Voce.Click"});
-    DalModello([&] { p.Menu.Visible = false; });
-    EXPECT_FALSE(Widget<QMenu>("Menu")->menuAction()->isVisible());
+    EXPECT_FALSE(menu->menuAction()->isVisible());
 }
 
 TEST_F(Legatore, UnGuastoNelGestoreVaAllaPiattaformaEIlProgrammaProsegue) {
     p.OK.Click = [] { Errore(9); };
     QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
-    p.OK.Click = [this] { eventi.push_back("dopo"); };
-    QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
+    // The next event runs: a click on an option, on its circle at the left.
+    QTest::mouseClick(Widget<QRadioButton>("Due"), Qt::LeftButton, {}, QPoint(6, 6));
     EXPECT_EQ(porta.messaggi, Eventi{"FAILURE 9 Indice non compreso nell'intervallo"});
-    EXPECT_EQ(eventi, Eventi{"dopo"});
+    EXPECT_TRUE(p.Due.Value());
 }
 
 } // namespace

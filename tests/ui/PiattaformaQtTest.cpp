@@ -1,31 +1,31 @@
-// The Qt port: message boxes as the user sees them, the hourglass, and modal screens that hold
-// their caller until the model takes them down.
+// The Qt port with the real program started on an empty program directory: message boxes as the
+// user sees them, the hourglass, the main window's menus and close box, the child screens in its
+// area, and the modal screens that hold their caller until the model takes them down.
 #include "ui/PiattaformaQt.h"
 #include "screen/Schermo.h"
+#include "shell/Applicazione.h"
 #include "ui/Legatore.h"
+#include "ui/Partenza.h"
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <string>
-#include <vector>
 
 namespace {
 
-// A box as the user sees it: "TITLE|TEXT|BUTTONS", the buttons from left to right between bars,
-// the default one after "*", the one Escape presses before "!".
+// Each box is kept as "TITLE|TEXT|BUTTONS", the buttons from left to right between bars, the
+// default one after "*", the one Escape presses before "!"; the button `daPremere` is pressed.
 struct PiattaformaQtTest : testing::Test {
+    QTemporaryDir cartella;
+    Applicazione app;
     PiattaformaQt porta;
     std::vector<std::string> visti;
     std::vector<QMessageBox::Icon> icone;
     std::string daPremere;
+    QTimer guardia; // should a modal loop never end, the program's end lets the test go on
 
     void SetUp() override {
         ImpostaPiattaforma(&porta);
@@ -46,8 +46,19 @@ struct PiattaformaQtTest : testing::Test {
             icone.push_back(box.icon());
             return premuto;
         };
+        Parti(cartella.path().toStdString() + "/");
+        ASSERT_NE(porta.FinestraPrincipale(), nullptr);
+        visti.clear();
+        guardia.callOnTimeout([this] {
+            if (QWidget* box = QApplication::activeModalWidget()) box->close();
+            porta.Termina();
+        });
+        guardia.start(10000);
     }
     void TearDown() override { ImpostaPiattaforma(nullptr); }
+    template <class W> W* Principale(const char* nome) {
+        return porta.FinestraPrincipale()->findChild<W*>(nome);
+    }
 };
 
 TEST_F(PiattaformaQtTest, IconaPulsantiInOrdinePredefinitoEdEsc) {
@@ -91,107 +102,116 @@ TEST_F(PiattaformaQtTest, IconaPulsantiInOrdinePredefinitoEdEsc) {
 
 TEST_F(PiattaformaQtTest, SenzaRispostaPreparataIlRiquadroAttendeLUtente) {
     porta.rispondi = nullptr;
+    porta.Clessidra(true);
     std::string visto;
-    QTimer::singleShot(0, [&visto] {
+    QTimer::singleShot(0, &guardia, [&visto] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!box) return;
-        visto = box->windowTitle().toStdString();
+        // The box shows the arrow even under the hourglass.
+        visto = box->windowTitle().toStdString() + " " +
+                std::to_string(QApplication::overrideCursor()->shape());
         for (QAbstractButton* p : box->buttons())
             if (p->text() == "No") p->click();
     });
-    QTimer::singleShot(5000, [] {
-        if (QWidget* box = QApplication::activeModalWidget()) box->close();
-    });
     EXPECT_EQ(porta.MsgBox("Salvare?", "Attenzione", Icona::Domanda, Pulsanti::SiNoAnnulla, 0),
               Risposta::No);
-    EXPECT_EQ(visto, "Attenzione");
-}
-
-TEST_F(PiattaformaQtTest, LaClessidraNonSiAccumula) {
+    EXPECT_EQ(visto, "Attenzione " + std::to_string(Qt::ArrowCursor));
+    // Lit twice, the hourglass goes out at the first off.
     porta.Clessidra(true);
-    porta.Clessidra(true);
-    ASSERT_NE(QApplication::overrideCursor(), nullptr);
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     porta.Clessidra(false);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-// A screen shown only modally, on the form tests/ui/forms/Prova.ui.
-struct ProvaModale {
+// The model's captions reach the main window's menus, where "-" makes a separator; its close
+// box ends the program without the question on the way out, which is the model's.
+TEST_F(PiattaformaQtTest, MenuEChiusuraDellaFinestraPrincipale) {
+    EXPECT_EQ(Principale<QMenu>("File")->title(), "&File");
+    EXPECT_EQ(Principale<QAction>("ApriConto")->text(), "&Apri conto esitente");
+    EXPECT_TRUE(Principale<QAction>("A")->isSeparator());
+    EXPECT_FALSE(Principale<QAction>("esci")->isSeparator());
+    porta.FinestraPrincipale()->close();
+    EXPECT_TRUE(porta.terminato);
+    EXPECT_EQ(visti, std::vector<std::string>{});
+}
+
+// The screens made by these tests have their form in tests/ui/forms/Prova.ui.
+TEST_F(PiattaformaQtTest, GliSchermiFigliStannoNellArea) {
+    // The area to these two alone (the first start brings up its welcome screen).
+    auto* area = Principale<QMdiArea>("Area");
+    ASSERT_NE(area, nullptr);
+    EventoDaVista([area] {
+        for (QMdiSubWindow* finestra : area->subWindowList())
+            if (Schermo* s = SchermoDi(finestra->widget())) s->UnloadMe();
+    });
+    Schermo uno("Prova", "Primo"), due("Prova", "Secondo");
+    EventoDaVista([&] {
+        uno.Show();
+        due.Show();
+    });
+    auto* finestraUno = qobject_cast<QMdiSubWindow*>(porta.FinestraDi(uno));
+    auto* finestraDue = qobject_cast<QMdiSubWindow*>(porta.FinestraDi(due));
+    ASSERT_TRUE(finestraUno && finestraDue);
+    EXPECT_EQ(finestraUno->mdiArea(), area);
+    EXPECT_EQ(area->activeSubWindow(), finestraDue);
+    EXPECT_EQ(finestraDue->windowTitle(), "Secondo");
+
+    // The user brings the first to the front: the model hears of it.
+    area->setActiveSubWindow(finestraUno);
+    EXPECT_EQ(SchermoAttivo(), &uno);
+
+    // Tiled vertically: side by side, each as tall as the area.
+    porta.DisponiFinestre(2);
+    QRect spazio = area->viewport()->rect();
+    EXPECT_EQ(finestraDue->geometry(),
+              QRect(spazio.width() / 2, 0, spazio.width() / 2, spazio.height()));
+
+    // The close box of a child unloads its screen.
+    finestraDue->close();
+    EXPECT_EQ(due.Stato(), StatoSchermo::Scaricato);
+    EXPECT_EQ(porta.FinestraDi(due), nullptr);
+    uno.UnloadMe();
+}
+
+// The caller waits until the screen is hidden by its button (way 0), unloaded by it (1) or by
+// its window's close box (2), or let go at the program's end (3).
+TEST_F(PiattaformaQtTest, IlChiamanteAttendeFinCheLoSchermoModaleVieneVia) {
     Schermo S{"Prova", "Finestra modale"};
     Controllo Nome{S, TipoControllo::Campo, "Nome"};
     Controllo Chiudi{S, TipoControllo::Pulsante, "Chiudi", "Chiudi"};
-    ProvaModale() { S.Figlio = false; }
-};
-
-struct Modale : PiattaformaQtTest {
-    ProvaModale m;
-    std::vector<std::string> passi;
-
-    // Runs `azione` inside the modal loop, with a way out should it not end the loop.
-    void MostraE(const std::function<void()>& azione) {
-        QTimer::singleShot(0, [this, azione] {
-            QWidget* finestra = porta.FinestraDi(m.S);
-            bool modale = finestra && finestra->isVisible() && finestra->isModal();
-            passi.push_back(modale ? "modale" : "non modale");
-            azione();
+    S.Figlio = false;
+    const StatoSchermo stati[] = {StatoSchermo::Nascosto, StatoSchermo::Scaricato,
+                                  StatoSchermo::Scaricato, StatoSchermo::Modale};
+    for (int modo : {0, 1, 2, 3}) {
+        SCOPED_TRACE(modo);
+        Chiudi.Click = [&S, modo] { modo == 0 ? S.Hide() : S.UnloadMe(); };
+        std::vector<std::string> passi;
+        QTimer::singleShot(0, &guardia, [&, modo] {
+            QWidget* f = porta.FinestraDi(S);
+            passi.push_back(f->isVisible() && f->isModal() ? "modale" : "non modale");
+            passi.push_back(f->windowTitle().toStdString());
+            QTest::keyClicks(f->findChild<QLineEdit*>("Nome"), "abc");
+            // Escape is the model's key, not the window's: the screen stays up.
+            QTest::keyClick(f->findChild<QLineEdit*>("Nome"), Qt::Key_Escape);
+            passi.push_back(Nome.Text() + (f->isVisible() ? " su" : " giù"));
+            if (modo < 2) QTest::mouseClick(f->findChild<QPushButton*>("Chiudi"), Qt::LeftButton);
+            if (modo == 2) f->close();
+            if (modo == 3) porta.Termina();
         });
-        QTimer::singleShot(5000, [this] {
-            if (m.S.Stato() != StatoSchermo::Modale) return;
-            ADD_FAILURE() << "the modal loop didn't end";
-            porta.Termina();
-        });
-        EventoDaVista([this] {
-            m.S.Show(true);
+        EventoDaVista([&] {
+            S.Show(true);
             passi.push_back("ritorno");
         });
-    }
-    QWidget* Finestra() { return porta.FinestraDi(m.S); }
-    template <class W> W* Widget(const char* nome) { return Finestra()->findChild<W*>(nome); }
-};
-
-TEST_F(Modale, IlChiamanteAttendeFinCheLoSchermoSiNasconde) {
-    m.Chiudi.Click = [this] { m.S.Hide(); };
-    MostraE([this] {
-        QTest::keyClicks(Widget<QLineEdit>("Nome"), "abc");
-        // Escape is the model's key, not the window's: the screen stays up.
-        QTest::keyClick(Widget<QLineEdit>("Nome"), Qt::Key_Escape);
-        passi.push_back(Finestra()->isVisible() ? "ancora su" : "chiusa da Esc");
-        QTest::mouseClick(Widget<QPushButton>("Chiudi"), Qt::LeftButton);
-    });
-    EXPECT_EQ(passi, (std::vector<std::string>{"modale", "ancora su", "ritorno"}));
-    EXPECT_EQ(m.Nome.Text(), "abc");
-    EXPECT_EQ(m.S.Stato(), StatoSchermo::Nascosto);
-    ASSERT_NE(Finestra(), nullptr);
-    EXPECT_FALSE(Finestra()->isVisible());
-    EXPECT_EQ(Finestra()->windowTitle(), "Finestra modale");
-    m.S.UnloadMe();
-}
-
-TEST_F(Modale, UnPulsanteOLaChiusuraDellaFinestraScaricanoLoSchermo) {
-    m.Chiudi.Click = [this] { m.S.UnloadMe(); };
-    for (bool pulsante : {true, false}) {
-        passi.clear();
-        MostraE([this, pulsante] {
-            QTest::keyClicks(Widget<QLineEdit>("Nome"), "abc");
-            if (pulsante)
-                QTest::mouseClick(Widget<QPushButton>("Chiudi"), Qt::LeftButton);
-            else
-                Finestra()->close();
-        });
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        EXPECT_EQ(passi, (std::vector<std::string>{"modale", "ritorno"})) << pulsante;
-        EXPECT_EQ(m.S.Stato(), StatoSchermo::Scaricato) << pulsante;
-        EXPECT_EQ(m.Nome.Text(), "") << pulsante;
-        EXPECT_EQ(Finestra(), nullptr) << pulsante;
+        EXPECT_EQ(passi,
+                  (std::vector<std::string>{"modale", "Finestra modale", "abc su", "ritorno"}));
+        EXPECT_EQ(S.Stato(), stati[modo]);
+        QWidget* finestra = porta.FinestraDi(S);
+        EXPECT_EQ(finestra != nullptr, modo == 0 || modo == 3);
+        EXPECT_EQ(finestra && finestra->isVisible(), modo == 3);
+        EXPECT_EQ(porta.terminato, modo == 3);
+        S.UnloadMe();
     }
-}
-
-TEST_F(Modale, LaFineDelProgrammaSciogliePureLoSchermoModale) {
-    MostraE([this] { porta.Termina(); });
-    EXPECT_EQ(passi, (std::vector<std::string>{"modale", "ritorno"}));
-    EXPECT_TRUE(porta.terminato);
-    m.S.UnloadMe();
 }
 
 } // namespace

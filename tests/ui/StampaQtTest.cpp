@@ -2,11 +2,7 @@
 // documents folder, named after its first line, with its pages and its text at its columns.
 #include "ui/StampanteQt.h"
 
-#include <QFileInfo>
-#include <QPrinterInfo>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTemporaryDir>
+#include <QtPrintSupport>
 
 #include <gtest/gtest.h>
 
