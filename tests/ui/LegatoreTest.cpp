@@ -1,31 +1,20 @@
-// The binder on a screen made for the test, with its widgets built here: what the user does
-// reaches the model once, what the model holds reaches the widgets, and the binder's own writes
-// never come back as the user's.
+// The binder on a screen made for the test, on tests/ui/forms/Prova.ui with one widget of each
+// kind: what the user does reaches the model once, and what the model holds reaches the widgets.
 #include "ui/Legatore.h"
 #include "screen/PiattaformaSenzaSchermo.h"
 #include "screen/Schermo.h"
+#include "store/Colore.h"
 #include "store/Guasto.h"
+#include "ui/Moduli.h"
 
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QImage>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QMenu>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace {
+
+using Eventi = std::vector<std::string>;
 
 struct Prova {
     Schermo S{"Prova", "Prova del legatore"};
@@ -34,7 +23,6 @@ struct Prova {
     Controllo Elenco{S, TipoControllo::Lista, "Elenco"};
     Controllo Valuta{S, TipoControllo::Combo, "Valuta"};
     Controllo Due{S, TipoControllo::Opzione, "Due", "Due"};
-    Controllo Spunta{S, TipoControllo::Casella, "Spunta", "Spunta"};
     Controllo OK{S, TipoControllo::Pulsante, "OK", "OK"};
     Controllo Bandiera{S, TipoControllo::Immagine, "Bandiera"};
     MatriceControlli Saldi{S, TipoControllo::Etichetta, "Saldi", 0, 1};
@@ -42,83 +30,63 @@ struct Prova {
     Controllo Menu{S, TipoControllo::Menu, "Menu", "&Menu"};
 };
 
+// The widgets follow the model at the end of each event; a test that changes the model itself
+// calls AggiornaViste() as that end.
 struct Legatore : testing::Test {
     PiattaformaSenzaSchermo porta;
     Prova p;
-    QWidget radice;
-    std::vector<std::string> eventi;
+    std::unique_ptr<QWidget> radice{CaricaModulo("Prova")};
+    Eventi eventi;
 
-    template <class W> void Aggiungi(std::initializer_list<const char*> nomi) {
-        for (const char* nome : nomi) {
-            auto* w = new W(&radice);
-            w->setObjectName(nome);
-            radice.layout()->addWidget(w);
-        }
-    }
-    template <class W> W* Widget(const char* nome) { return radice.findChild<W*>(nome); }
+    template <class W> W* Widget(const char* nome) { return radice->findChild<W*>(nome); }
 
     void SetUp() override {
         ImpostaPiattaforma(&porta);
-        new QVBoxLayout(&radice);
-        Aggiungi<QLineEdit>({"Nome", "DataOper"});
-        Aggiungi<QListView>({"Elenco"});
-        Aggiungi<QComboBox>({"Valuta"});
-        Aggiungi<QRadioButton>({"Due"});
-        Aggiungi<QCheckBox>({"Spunta"});
-        Aggiungi<QPushButton>({"OK"});
-        Aggiungi<QLabel>({"Bandiera", "Saldi_0", "Saldi_1"});
-        auto* menu = new QMenu(&radice);
-        menu->setObjectName("Menu");
-        auto* voce = new QAction(&radice);
-        voce->setObjectName("Voce");
-        menu->addAction(voce);
-        for (Controllo* c : {&p.Nome, &p.DataOper, &p.Elenco, &p.Valuta, &p.OK}) {
-            std::string n = c->nome;
-            c->Change = [this, n] { eventi.push_back(n + ".Change"); };
-            c->Click = [this, n] { eventi.push_back(n + ".Click"); };
+        for (Controllo* c : {&p.Nome, &p.DataOper, &p.Elenco, &p.Valuta, &p.OK, &p.Voce}) {
+            c->Change = [this, n = c->nome] { eventi.push_back(n + ".Change"); };
+            c->Click = [this, n = c->nome] { eventi.push_back(n + ".Click"); };
         }
         p.S.Show();
-        Lega(p.S, &radice);
+        Lega(p.S, radice.get());
         AggiornaViste();
-        radice.show();
-        radice.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&radice));
+        radice->show();
+        radice->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(radice.get()));
         eventi.clear();
     }
     void TearDown() override {
         Slega(p.S);
         ImpostaPiattaforma(nullptr);
     }
-    // A click where an option or a check box takes it: on its box, at the left.
-    void Spunta(const char* nome) {
-        auto* w = Widget<QAbstractButton>(nome);
-        QTest::mouseClick(w, Qt::LeftButton, {}, QPoint(6, w->height() / 2));
-    }
-    // The model changed by the program's code: the widgets follow at the end of the event.
-    void DalModello(const std::function<void()>& f) {
-        f();
-        AggiornaViste();
-    }
 };
 
-TEST_F(Legatore, UnCampoPienoNonPrendeAltriTasti) {
-    DalModello([&] { p.Nome.MaxLength = 3; });
-    auto* campo = Widget<QLineEdit>("Nome");
-    campo->setFocus();
-    QTest::keyClicks(campo, "Rossi");
+TEST_F(Legatore, IlCampoTroncaMascheraEMostraLImportoFormattato) {
+    auto* nome = Widget<QLineEdit>("Nome");
+    p.Nome.MaxLength = 3;
+    AggiornaViste();
+    QTest::keyClicks(nome, "Rossi");
     EXPECT_EQ(p.Nome.Text(), "Ros");
-    EXPECT_EQ(campo->text(), "Ros");
-}
 
-// A masked date reads with its blanks, which the program's date checks count on.
-TEST_F(Legatore, UnaDataMascherataSiLeggeConIBlank) {
-    auto* data = Widget<QLineEdit>("DataOper");
-    data->setFocus();
-    QTest::keyClicks(data, "15");
+    // A masked date reads with its blanks, which the program's date checks count on.
+    QTest::keyClicks(Widget<QLineEdit>("DataOper"), "15");
     EXPECT_EQ(p.DataOper.Text(), "15/__/____");
+
+    // 1234,5 in "#,##0.00": thousands grouped with ".", two decimals after ","; as typed while
+    // the field has the focus, and a text that is no amount as it stands.
+    p.Nome.MaxLength = 0;
+    p.Nome.Formato = "#,##0.00";
+    const std::tuple<const char*, Controllo*, const char*> casi[] = {
+        {"1234,5", &p.DataOper, "1.234,50"}, {"1234,5", &p.Nome, "1234,5"}, {"abc", &p.OK, "abc"}};
+    for (auto [testo, fuoco, mostrato] : casi) {
+        p.Nome.SetText(testo);
+        fuoco->SetFocus();
+        AggiornaViste();
+        EXPECT_EQ(nome->text(), mostrato) << testo;
+    }
 }
 
-TEST_F(Legatore, LeScrittureDelLegatoreNonTornanoComeEventi) {
+// The selected line of a combo must show when it is not the first: line 1 of two.
+TEST_F(Legatore, LeScrittureDelProgrammaNonTornanoELaSceltaDellUtenteEUnClic) {
     p.OK.Click = [this] {
         eventi.push_back("OK.Click");
         p.Nome.SetText("scritto dal programma");
@@ -131,133 +99,111 @@ TEST_F(Legatore, LeScrittureDelLegatoreNonTornanoComeEventi) {
     };
     QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
     // Each change once, from the model itself; none again from the widgets written after.
-    EXPECT_EQ(eventi, (std::vector<std::string>{"OK.Click", "Nome.Change", "Valuta.Click",
-                                                "Elenco.Click"}));
+    EXPECT_EQ(eventi, (Eventi{"OK.Click", "Nome.Change", "Valuta.Click", "Elenco.Click"}));
     EXPECT_EQ(Widget<QLineEdit>("Nome")->text(), "scritto dal programma");
-    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentIndex(), 1);
-    EXPECT_EQ(Widget<QComboBox>("Valuta")->currentText(), "Lira - Italia");
+    auto* combo = Widget<QComboBox>("Valuta");
+    EXPECT_EQ(combo->currentIndex(), 1);
     EXPECT_TRUE(Widget<QRadioButton>("Due")->isChecked());
+
+    // A failure in a handler goes to the platform, and the program goes on: a choice from the
+    // lines is a click, not a change of text.
+    p.OK.Click = [] { Errore(9); };
+    QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
+    EXPECT_EQ(porta.messaggi, Eventi{"FAILURE 9 Indice non compreso nell'intervallo"});
+    eventi.clear();
+    QTest::keyClick(combo, Qt::Key_Up);
+    EXPECT_EQ(p.Valuta.Text(), "Euro - Unione Europea");
+    EXPECT_EQ(eventi, Eventi{"Valuta.Click"});
 }
 
-TEST_F(Legatore, IlFiltroDeiTastiScartaOCambiaIlTasto) {
+TEST_F(Legatore, IlFiltroDeiTastiScartaOCambiaIlTastoAncheNellIncollato) {
     std::vector<int> premuti, rilasciati;
     p.Nome.KeyPress = [&](int& k) {
         premuti.push_back(k);
-        if (k == 'x')
+        if (k == 'x' || k == '/')
             k = 0;
         else if (k >= 'a' && k <= 'z')
             k -= 32;
     };
     p.Nome.KeyUp = [&](int k) { rilasciati.push_back(k); };
     auto* campo = Widget<QLineEdit>("Nome");
-    campo->setFocus();
     QTest::keyClicks(campo, "axb");
+    // A paste between A and B: what the keyboard refuses can't come in that way either.
+    campo->setCursorPosition(1);
+    QApplication::clipboard()->setText("c/x2");
+    campo->paste();
     QTest::keyClick(campo, Qt::Key_Return);
-    EXPECT_EQ(p.Nome.Text(), "AB");
-    EXPECT_EQ(campo->text(), "AB");
-    EXPECT_EQ(premuti, (std::vector<int>{'a', 'x', 'b', TastoInvio}));
+    EXPECT_EQ(p.Nome.Text(), "AC2B");
+    EXPECT_EQ(campo->text(), "AC2B");
+    EXPECT_EQ(premuti, (std::vector<int>{'a', 'x', 'b', 'c', '/', 'x', '2', TastoInvio}));
     EXPECT_EQ(rilasciati, (std::vector<int>{'A', 'X', 'B', TastoInvio}));
 }
 
-TEST_F(Legatore, IlFuocoSegueIlModelloTabEClic) {
-    std::vector<std::string> fuoco;
-    p.Nome.LostFocus = [&] { fuoco.push_back("Nome.LostFocus"); };
-    p.Spunta.GotFocus = [&] { fuoco.push_back("Spunta.GotFocus"); };
-    DalModello([&] {
-        p.Nome.SetFocus();
-        p.DataOper.Enabled = false;
-    });
+TEST_F(Legatore, IlFuocoVaDalModelloAlWidgetEDalClicAlModello) {
+    p.Nome.LostFocus = [this] { eventi.push_back("Nome.LostFocus"); };
+    p.Nome.SetFocus();
+    AggiornaViste();
     ASSERT_TRUE(Widget<QLineEdit>("Nome")->hasFocus());
-    QTest::keyClick(Widget<QLineEdit>("Nome"), Qt::Key_Tab);
-    EXPECT_EQ(p.S.Fuoco(), &p.Elenco);
-    EXPECT_TRUE(Widget<QListView>("Elenco")->hasFocus());
-
-    DalModello([&] { p.Nome.SetFocus(); });
-    fuoco.clear();
-    Spunta("Spunta");
-    EXPECT_EQ(fuoco, (std::vector<std::string>{"Nome.LostFocus", "Spunta.GotFocus"}));
-    EXPECT_TRUE(p.Spunta.Value());
+    QTest::mouseClick(Widget<QLineEdit>("DataOper"), Qt::LeftButton);
+    EXPECT_EQ(p.S.Fuoco(), &p.DataOper);
+    EXPECT_EQ(eventi, Eventi{"Nome.LostFocus"});
 }
 
-TEST_F(Legatore, UnaListaDiTrentamilaRighe) {
-    DalModello([&] {
-        for (int i = 0; i < 30000; ++i) p.Elenco.AddItem("riga " + std::to_string(i));
-    });
+TEST_F(Legatore, UnaListaDiTrentamilaRigheNeiColoriDellUtente) {
+    for (int i = 0; i < 30000; ++i)
+        p.Elenco.AddItem("riga " + std::to_string(i));
+    p.Elenco.BackColor = ValoreColore({0, 0, 128});
+    p.Elenco.ForeColor = ValoreColore({255, 255, 0});
+    AggiornaViste();
     auto* lista = Widget<QListView>("Elenco");
-    ASSERT_EQ(lista->model()->rowCount(), 30000);
-    EXPECT_EQ(lista->font().family(), "Courier New");
+    EXPECT_EQ(lista->palette().color(QPalette::Base), QColor(0, 0, 128));
+    EXPECT_EQ(lista->palette().color(QPalette::Text), QColor(255, 255, 0));
 
-    int doppi = 0;
-    p.Elenco.DblClick = [&] { ++doppi; };
+    p.Elenco.DblClick = [this] { eventi.push_back("Elenco.DblClick"); };
     QPoint terza = lista->visualRect(lista->model()->index(2, 0)).center();
     QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, terza);
     QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, terza);
     EXPECT_EQ(p.Elenco.ListIndex(), 2);
-    EXPECT_EQ(doppi, 1);
+    EXPECT_EQ(eventi, (Eventi{"Elenco.Click", "Elenco.DblClick"}));
 
-    DalModello([&] {
-        p.Elenco.SetListIndex(29999);
-        p.Elenco.RemoveItem(0);
-    });
+    p.Elenco.SetListIndex(29999);
+    p.Elenco.RemoveItem(0);
+    AggiornaViste();
     EXPECT_EQ(lista->model()->rowCount(), 29999);
     EXPECT_EQ(lista->currentIndex().row(), 29998);
     EXPECT_EQ(lista->model()->index(0, 0).data().toString(), "riga 1");
 }
 
-TEST_F(Legatore, LaSceltaNellaComboEUnClic) {
-    DalModello([&] {
-        p.Valuta.AddItem("Euro - Unione Europea");
-        p.Valuta.AddItem("Lira - Italia");
-        p.Valuta.SetListIndex(0);
-    });
-    eventi.clear();
-    auto* combo = Widget<QComboBox>("Valuta");
-    combo->setFocus();
-    QTest::keyClick(combo, Qt::Key_Down);
-    EXPECT_EQ(p.Valuta.Text(), "Lira - Italia");
-    // A choice from the lines is a click, not a change of text.
-    EXPECT_EQ(eventi, std::vector<std::string>{"Valuta.Click"});
-}
-
-TEST_F(Legatore, VisibileSuggerimentoEMenuCheSiApre) {
-    auto* saldo = Widget<QLabel>("Saldi_1");
-    DalModello([&] {
-        p.Saldi(1).Visible = false;
-        p.Saldi(1).ToolTipText = "Saldo per data valuta";
-    });
-    EXPECT_FALSE(saldo->isVisible());
-    EXPECT_EQ(saldo->toolTip(), "Saldo per data valuta");
-
-    // A menu pops up only when the user opens it: its visibility is that of its entry.
-    EXPECT_FALSE(Widget<QMenu>("Menu")->isVisible());
-    // The menu's handler runs as it opens and may change its entries before they show.
-    p.Menu.Click = [&] { p.Voce.Enabled = false; };
-    emit Widget<QMenu>("Menu")->aboutToShow();
-    EXPECT_FALSE(Widget<QAction>("Voce")->isEnabled());
-    DalModello([&] { p.Menu.Visible = false; });
-    EXPECT_FALSE(Widget<QMenu>("Menu")->menuAction()->isVisible());
-}
-
-TEST_F(Legatore, LImmagineMostraIlFileDelTesto) {
+TEST_F(Legatore, VisibileSuggerimentoImmagineEMenuCheSiApre) {
     QTemporaryDir cartella;
     QString file = cartella.filePath("15.png");
     QImage bandiera(16, 11, QImage::Format_RGB32);
     bandiera.fill(Qt::blue);
     ASSERT_TRUE(bandiera.save(file));
-    DalModello([&] { p.Bandiera.SetText(file.toStdString()); });
+    p.Saldi(1).Visible = false;
+    p.Saldi(1).ToolTipText = "Saldo per data valuta";
+    p.Bandiera.SetText(file.toStdString());
+    AggiornaViste();
+    auto* saldo = Widget<QLabel>("Saldi_1");
+    EXPECT_FALSE(saldo->isVisible());
+    EXPECT_EQ(saldo->toolTip(), "Saldo per data valuta");
     EXPECT_EQ(Widget<QLabel>("Bandiera")->pixmap().size(), QSize(16, 11));
-    DalModello([&] { p.Bandiera.SetText(""); });
-    EXPECT_TRUE(Widget<QLabel>("Bandiera")->pixmap().isNull());
-}
 
-TEST_F(Legatore, UnGuastoNelGestoreVaAllaPiattaformaEIlProgrammaProsegue) {
-    p.OK.Click = [] { Errore(9); };
-    QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
-    p.OK.Click = [this] { eventi.push_back("dopo"); };
-    QTest::mouseClick(Widget<QPushButton>("OK"), Qt::LeftButton);
-    EXPECT_EQ(porta.messaggi,
-              std::vector<std::string>{"FAILURE 9 Indice non compreso nell'intervallo"});
-    EXPECT_EQ(eventi, std::vector<std::string>{"dopo"});
+    // A menu pops up only when the user opens it; its handler runs as it opens and may change
+    // its entries before they show.
+    auto* menu = Widget<QMenu>("Menu");
+    auto* voce = Widget<QAction>("Voce");
+    EXPECT_FALSE(menu->isVisible());
+    EXPECT_EQ(menu->title() + voce->text(), "&Menu&Voce");
+    p.Menu.Click = [this] { p.Voce.Enabled = false; };
+    emit menu->aboutToShow();
+    EXPECT_FALSE(voce->isEnabled());
+    p.Voce.Enabled = true;
+    p.Menu.Visible = false;
+    AggiornaViste();
+    voce->trigger();
+    EXPECT_EQ(eventi, Eventi{"Voce.Click"});
+    EXPECT_FALSE(menu->menuAction()->isVisible());
 }
 
 } // namespace

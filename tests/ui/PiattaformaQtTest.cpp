@@ -1,35 +1,28 @@
-// The Qt port: message boxes as the user sees them, the hourglass, and modal screens that hold
-// their caller until the model takes them down.
+// The Qt port: message boxes, the hourglass, the main window, the child screens in its area and
+// the modal screens that hold their caller until the model takes them down.
 #include "ui/PiattaformaQt.h"
 #include "screen/Schermo.h"
+#include "shell/Applicazione.h"
 #include "ui/Legatore.h"
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <string>
-#include <vector>
 
 namespace {
 
-struct Riquadro {
-    std::string titolo, testo;
-    QMessageBox::Icon icona;
-    std::vector<std::string> pulsanti; // from left to right
-    std::string predefinito, uscita;
-};
-
+// Each box is kept as "TITLE|TEXT|BUTTONS", the buttons from left to right between bars, the
+// default one after "*", the one Escape presses before "!"; the button `daPremere` is pressed.
 struct PiattaformaQtTest : testing::Test {
+    Applicazione app;
     PiattaformaQt porta;
-    std::vector<Riquadro> visti;
+    std::vector<std::string> visti;
+    std::vector<QMessageBox::Icon> icone;
     std::string daPremere;
+    QTimer guardia; // should a modal loop never end, the program's end lets the test go on
 
     void SetUp() override {
         ImpostaPiattaforma(&porta);
@@ -39,20 +32,23 @@ struct PiattaformaQtTest : testing::Test {
             auto x = [](QAbstractButton* p) { return p->mapToGlobal(QPoint()).x(); };
             std::sort(pulsanti.begin(), pulsanti.end(),
                       [&x](QAbstractButton* a, QAbstractButton* b) { return x(a) < x(b); });
-            Riquadro r{box.windowTitle().toStdString(),
-                       box.text().toStdString(),
-                       box.icon(),
-                       {},
-                       box.defaultButton() ? box.defaultButton()->text().toStdString() : "",
-                       box.escapeButton() ? box.escapeButton()->text().toStdString() : ""};
+            std::string visto = box.windowTitle().toStdString() + "|" + box.text().toStdString();
             QAbstractButton* premuto = nullptr;
             for (QAbstractButton* p : pulsanti) {
-                r.pulsanti.push_back(p->text().toStdString());
+                visto += (p == box.defaultButton() ? "|*" : "|") + p->text().toStdString() +
+                         (p == box.escapeButton() ? "!" : "");
                 if (p->text().toStdString() == daPremere) premuto = p;
             }
-            visti.push_back(r);
+            visti.push_back(visto);
+            icone.push_back(box.icon());
             return premuto;
         };
+        porta.FinestraPrincipale()->show();
+        guardia.callOnTimeout([this] {
+            if (QWidget* box = QApplication::activeModalWidget()) box->close();
+            porta.Termina();
+        });
+        guardia.start(10000);
     }
     void TearDown() override { ImpostaPiattaforma(nullptr); }
 };
@@ -63,153 +59,133 @@ TEST_F(PiattaformaQtTest, IconaPulsantiInOrdinePredefinitoEdEsc) {
         QMessageBox::Icon qt;
         Pulsanti insieme;
         int predefinito;
-        std::vector<std::string> pulsanti;
-        std::string atteso, uscita, premuto; // uscita: the Escape button, "" not looked at
+        const char *pulsanti, *premuto;
         Risposta risposta;
     };
+    using I = Icona;
+    using P = Pulsanti;
+    using Q = QMessageBox;
     const Caso casi[] = {
-        {Icona::Informazione, QMessageBox::Information, Pulsanti::OK, 0, {"OK"}, "OK", "OK", "OK",
-         Risposta::OK},
-        {Icona::Esclamazione, QMessageBox::Warning, Pulsanti::OKAnnulla, 1, {"OK", "Annulla"},
-         "Annulla", "Annulla", "OK", Risposta::OK},
-        {Icona::Critica, QMessageBox::Critical, Pulsanti::InterrompiRiprovaIgnora, 1,
-         {"Interrompi", "Riprova", "Ignora"}, "Riprova", "", "Ignora", Risposta::Ignora},
-        {Icona::Domanda, QMessageBox::Question, Pulsanti::SiNoAnnulla, 0, {"Sì", "No", "Annulla"},
-         "Sì", "Annulla", "No", Risposta::No},
-        {Icona::Nessuna, QMessageBox::NoIcon, Pulsanti::SiNo, 0, {"Sì", "No"}, "Sì", "", "Sì",
-         Risposta::Si},
-        {Icona::Esclamazione, QMessageBox::Warning, Pulsanti::RiprovaAnnulla, 0,
-         {"Riprova", "Annulla"}, "Riprova", "", "Annulla", Risposta::Annulla},
+        {I::Informazione, Q::Information, P::OK, 0, "*OK!", "OK", Risposta::OK},
+        {I::Esclamazione, Q::Warning, P::OKAnnulla, 1, "OK|*Annulla!", "OK", Risposta::OK},
+        {I::Critica, Q::Critical, P::InterrompiRiprovaIgnora, 1, "Interrompi|*Riprova|Ignora",
+         "Ignora", Risposta::Ignora},
+        {I::Domanda, Q::Question, P::SiNoAnnulla, 0, "*Sì|No|Annulla!", "No", Risposta::No},
+        {I::Nessuna, Q::NoIcon, P::SiNo, 0, "*Sì|No", "Sì", Risposta::Si},
+        {I::Esclamazione, Q::Warning, P::RiprovaAnnulla, 0, "*Riprova|Annulla!", "Annulla",
+         Risposta::Annulla},
     };
     for (const Caso& caso : casi) {
-        visti.clear();
+        SCOPED_TRACE(caso.pulsanti);
         daPremere = caso.premuto;
         EXPECT_EQ(porta.MsgBox("il nr. di conto non esiste.", "ATTENZIONE!", caso.icona,
                                caso.insieme, caso.predefinito),
                   caso.risposta);
-        ASSERT_EQ(visti.size(), 1u);
-        const Riquadro& r = visti[0];
-        EXPECT_EQ(r.titolo + "|" + r.testo, "ATTENZIONE!|il nr. di conto non esiste.");
-        EXPECT_EQ(r.icona, caso.qt);
-        EXPECT_EQ(r.pulsanti, caso.pulsanti);
-        EXPECT_EQ(r.predefinito, caso.atteso);
-        if (!caso.uscita.empty()) EXPECT_EQ(r.uscita, caso.uscita);
+        EXPECT_EQ(visti.back(),
+                  std::string("ATTENZIONE!|il nr. di conto non esiste.|") + caso.pulsanti);
+        EXPECT_EQ(icone.back(), caso.qt);
     }
+    // A run-time failure is a critical box with its number.
+    porta.Guasto(53, "Impossibile trovare il file");
+    EXPECT_EQ(visti.back(), "Errore|Errore 53: Impossibile trovare il file|*OK!");
+    EXPECT_EQ(icone.back(), QMessageBox::Critical);
 }
 
+// The box waits for the user, with the arrow under the hourglass, which doesn't pile up.
 TEST_F(PiattaformaQtTest, SenzaRispostaPreparataIlRiquadroAttendeLUtente) {
     porta.rispondi = nullptr;
-    std::string visto;
-    QTimer::singleShot(0, [&visto] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box) return;
-        visto = box->windowTitle().toStdString();
-        for (QAbstractButton* p : box->buttons())
+    porta.Clessidra(true);
+    int freccia = -1;
+    QTimer::singleShot(0, &guardia, [&freccia] {
+        freccia = QApplication::overrideCursor()->shape();
+        for (QAbstractButton* p : QApplication::activeModalWidget()->findChildren<QPushButton*>())
             if (p->text() == "No") p->click();
-    });
-    QTimer::singleShot(5000, [] {
-        if (QWidget* box = QApplication::activeModalWidget()) box->close();
     });
     EXPECT_EQ(porta.MsgBox("Salvare?", "Attenzione", Icona::Domanda, Pulsanti::SiNoAnnulla, 0),
               Risposta::No);
-    EXPECT_EQ(visto, "Attenzione");
-}
-
-TEST_F(PiattaformaQtTest, IlGuastoEUnRiquadroErrore) {
-    daPremere = "OK";
-    porta.Guasto(53, "Impossibile trovare il file");
-    ASSERT_EQ(visti.size(), 1u);
-    EXPECT_EQ(visti[0].titolo, "Errore");
-    EXPECT_EQ(visti[0].testo, "Errore 53: Impossibile trovare il file");
-    EXPECT_EQ(visti[0].icona, QMessageBox::Critical);
-    EXPECT_EQ(visti[0].pulsanti, std::vector<std::string>{"OK"});
-}
-
-TEST_F(PiattaformaQtTest, LaClessidraNonSiAccumula) {
+    EXPECT_EQ(freccia, Qt::ArrowCursor);
     porta.Clessidra(true);
-    porta.Clessidra(true);
-    ASSERT_NE(QApplication::overrideCursor(), nullptr);
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     porta.Clessidra(false);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-// A screen shown only modally, with its form under tests/ui/forms.
-struct ProvaModale {
-    Schermo S{"ProvaModale", "Finestra modale"};
-    Controllo Nome{S, TipoControllo::Campo, "Nome"};
-    Controllo Chiudi{S, TipoControllo::Pulsante, "Chiudi", "Chiudi"};
-    ProvaModale() { S.Figlio = false; }
-};
-
-struct Modale : PiattaformaQtTest {
-    ProvaModale m;
-    std::vector<std::string> passi;
-
-    // Runs `azione` inside the modal loop, with a way out should it not end the loop.
-    void MostraE(const std::function<void()>& azione) {
-        QTimer::singleShot(0, [this, azione] {
-            QWidget* finestra = porta.FinestraDi(m.S);
-            bool modale = finestra && finestra->isVisible() && finestra->isModal();
-            passi.push_back(modale ? "modale" : "non modale");
-            azione();
-        });
-        QTimer::singleShot(5000, [this] {
-            if (m.S.Stato() != StatoSchermo::Modale) return;
-            ADD_FAILURE() << "the modal loop didn't end";
-            porta.Termina();
-        });
-        EventoDaVista([this] {
-            m.S.Show(true);
-            passi.push_back("ritorno");
-        });
-    }
-    QWidget* Finestra() { return porta.FinestraDi(m.S); }
-    template <class W> W* Widget(const char* nome) { return Finestra()->findChild<W*>(nome); }
-};
-
-TEST_F(Modale, IlChiamanteAttendeFinCheLoSchermoSiNasconde) {
-    m.Chiudi.Click = [this] { m.S.Hide(); };
-    MostraE([this] {
-        QTest::keyClicks(Widget<QLineEdit>("Nome"), "abc");
-        // Escape is the model's key, not the window's: the screen stays up.
-        QTest::keyClick(Widget<QLineEdit>("Nome"), Qt::Key_Escape);
-        passi.push_back(Finestra()->isVisible() ? "ancora su" : "chiusa da Esc");
-        QTest::mouseClick(Widget<QPushButton>("Chiudi"), Qt::LeftButton);
-    });
-    EXPECT_EQ(passi, (std::vector<std::string>{"modale", "ancora su", "ritorno"}));
-    EXPECT_EQ(m.Nome.Text(), "abc");
-    EXPECT_EQ(m.S.Stato(), StatoSchermo::Nascosto);
-    ASSERT_NE(Finestra(), nullptr);
-    EXPECT_FALSE(Finestra()->isVisible());
-    EXPECT_EQ(Finestra()->windowTitle(), "Finestra modale");
-    m.S.UnloadMe();
+// In the main window's menus "-" makes a separator; its close box ends the program without the
+// question on the way out, which is the model's.
+TEST_F(PiattaformaQtTest, MenuEChiusuraDellaFinestraPrincipale) {
+    QMainWindow* finestra = porta.FinestraPrincipale();
+    EXPECT_TRUE(finestra->findChild<QAction*>("A")->isSeparator());
+    EXPECT_FALSE(finestra->findChild<QAction*>("esci")->isSeparator());
+    finestra->close();
+    EXPECT_TRUE(porta.terminato);
+    EXPECT_EQ(visti, std::vector<std::string>{});
 }
 
-TEST_F(Modale, UnPulsanteOLaChiusuraDellaFinestraScaricanoLoSchermo) {
-    m.Chiudi.Click = [this] { m.S.UnloadMe(); };
-    for (bool pulsante : {true, false}) {
-        passi.clear();
-        MostraE([this, pulsante] {
-            QTest::keyClicks(Widget<QLineEdit>("Nome"), "abc");
-            if (pulsante)
-                QTest::mouseClick(Widget<QPushButton>("Chiudi"), Qt::LeftButton);
-            else
-                Finestra()->close();
+// The screens made by these tests have their form in tests/ui/forms/Prova.ui.
+TEST_F(PiattaformaQtTest, GliSchermiFigliStannoNellArea) {
+    auto* area = porta.FinestraPrincipale()->findChild<QMdiArea*>("Area");
+    Schermo uno("Prova", "Primo"), due("Prova", "Secondo");
+    EventoDaVista([&] {
+        uno.Show();
+        due.Show();
+    });
+    auto* finestraUno = qobject_cast<QMdiSubWindow*>(porta.FinestraDi(uno));
+    auto* finestraDue = qobject_cast<QMdiSubWindow*>(porta.FinestraDi(due));
+    ASSERT_TRUE(finestraUno && finestraDue);
+    EXPECT_EQ(area->activeSubWindow(), finestraDue);
+
+    // The user brings the first to the front: the model hears of it.
+    area->setActiveSubWindow(finestraUno);
+    EXPECT_EQ(SchermoAttivo(), &uno);
+
+    // Tiled vertically: side by side, each as tall as the area.
+    porta.DisponiFinestre(2);
+    QRect spazio = area->viewport()->rect();
+    EXPECT_EQ(finestraDue->geometry(),
+              QRect(spazio.width() / 2, 0, spazio.width() / 2, spazio.height()));
+
+    finestraDue->close(); // the close box unloads the screen
+    EXPECT_EQ(due.Stato(), StatoSchermo::Scaricato);
+    EXPECT_EQ(porta.FinestraDi(due), nullptr);
+    uno.UnloadMe();
+}
+
+// The caller waits until the screen is hidden by its button (way 0), unloaded by it (1), or let
+// go at the program's end (2).
+TEST_F(PiattaformaQtTest, IlChiamanteAttendeFinCheLoSchermoModaleVieneVia) {
+    Schermo S{"Prova", "Finestra modale"};
+    Controllo Nome{S, TipoControllo::Campo, "Nome"};
+    Controllo OK{S, TipoControllo::Pulsante, "OK", "Chiudi"};
+    S.Figlio = false;
+    const StatoSchermo stati[] = {StatoSchermo::Nascosto, StatoSchermo::Scaricato,
+                                  StatoSchermo::Modale};
+    for (int modo : {0, 1, 2}) {
+        SCOPED_TRACE(modo);
+        OK.Click = [&S, modo] { modo == 0 ? S.Hide() : S.UnloadMe(); };
+        std::string passi;
+        QTimer::singleShot(0, &guardia, [&, modo] {
+            QWidget* f = porta.FinestraDi(S);
+            auto* nome = f->findChild<QLineEdit*>("Nome");
+            QTest::keyClicks(nome, "abc");
+            QTest::keyClick(nome, Qt::Key_Escape); // the model's key, not the window's
+            passi = Nome.Text() + (f->isVisible() && f->isModal() ? " modale " : " ") +
+                    f->windowTitle().toStdString();
+            if (modo < 2) QTest::mouseClick(f->findChild<QPushButton*>("OK"), Qt::LeftButton);
+            if (modo == 2) porta.Termina();
+        });
+        EventoDaVista([&] {
+            S.Show(true);
+            passi += " ritorno";
         });
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        EXPECT_EQ(passi, (std::vector<std::string>{"modale", "ritorno"})) << pulsante;
-        EXPECT_EQ(m.S.Stato(), StatoSchermo::Scaricato) << pulsante;
-        EXPECT_EQ(m.Nome.Text(), "") << pulsante;
-        EXPECT_EQ(Finestra(), nullptr) << pulsante;
+        EXPECT_EQ(passi, "abc modale Finestra modale ritorno");
+        EXPECT_EQ(S.Stato(), stati[modo]);
+        QWidget* finestra = porta.FinestraDi(S);
+        EXPECT_EQ(finestra != nullptr, modo != 1);
+        EXPECT_EQ(finestra && finestra->isVisible(), modo == 2);
+        EXPECT_EQ(porta.terminato, modo == 2);
+        S.UnloadMe();
     }
-}
-
-TEST_F(Modale, LaFineDelProgrammaSciogliePureLoSchermoModale) {
-    MostraE([this] { porta.Termina(); });
-    EXPECT_EQ(passi, (std::vector<std::string>{"modale", "ritorno"}));
-    EXPECT_TRUE(porta.terminato);
-    m.S.UnloadMe();
 }
 
 } // namespace
