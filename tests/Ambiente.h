@@ -31,10 +31,10 @@ using Byte = std::vector<unsigned char>;
 inline int NumeroGuasto(const std::function<void()>& azione) {
     try {
         azione();
+        return 0;
     } catch (const ErroreEsecuzione& e) {
         return e.numero;
     }
-    return 0;
 }
 
 inline Byte ContenutoFile(const fs::path& file) {
@@ -60,15 +60,11 @@ inline void ScriviFile(const fs::path& file, const Byte& byte) {
 
 // One record written or read at its number, on a file opened and closed here.
 template <class R> void ScriviIn(const fs::path& file, const R& record, long numero) {
-    ApriRecord(file.string(), R::Lunghezza, 1);
-    ScriviRecord(record, numero, 1);
-    ChiudiRecord(1);
+    ConRecord(file.string(), R::Lunghezza, 1, [&] { ScriviRecord(record, numero, 1); });
 }
 template <class R> R LeggiDa(const fs::path& file, long numero) {
     R record;
-    ApriRecord(file.string(), R::Lunghezza, 1);
-    LeggiRecord(record, numero, 1);
-    ChiudiRecord(1);
+    ConRecord(file.string(), R::Lunghezza, 1, [&] { LeggiRecord(record, numero, 1); });
     return record;
 }
 
@@ -170,12 +166,9 @@ struct Ambiente : ::testing::Test {
 
     void ScriviValuta(long numero, const std::string& nome, const std::string& paese,
                       double cambio) {
-        RecValuta v;
-        v.Numero = static_cast<std::int16_t>(numero);
-        v.Nome = nome;
-        v.Paese = paese;
-        v.Cambio = cambio;
-        ScriviIn(programma / "Valute.DAT", v, numero);
+        const auto n = static_cast<std::int16_t>(numero);
+        ScriviIn(programma / "Valute.DAT",
+                 RecValuta{.Numero = n, .Nome = nome, .Cambio = cambio, .Paese = paese}, numero);
     }
 
     // An account in the default data directory, as the last of a table of `numero`.
@@ -204,18 +197,8 @@ inline RecMovimento Mov(int nr, const std::string& dataOper, const std::string& 
                         double importo, const std::string& dA, const std::string& sospeso,
                         const std::string& causale = "VS", const std::string& nrDoc = "",
                         const std::string& annullato = "N") {
-    RecMovimento m;
-    m.NrOper = static_cast<std::int16_t>(nr);
-    m.DataOper = dataOper;
-    m.DataValuta = dataValuta;
-    m.Causale = causale;
-    m.IMPORTO = importo;
-    m.NrDoc = nrDoc;
-    m.DescMovim = "movimento " + std::to_string(nr);
-    m.Sospeso = sospeso;
-    m.D_A = dA;
-    m.Annullato = annullato;
-    return m;
+    return {static_cast<std::int16_t>(nr), dataOper, dataValuta, causale, importo, nrDoc,
+            "movimento " + std::to_string(nr), sospeso, dA, annullato};
 }
 
 // The open account "123" in the test's folder, which is both the data and the program directory,
@@ -254,28 +237,24 @@ struct AmbienteConto : Ambiente {
 
     // The movements as records 1 onwards of .MOV, and their count in .MOR.
     void ScriviMovimenti(const std::vector<RecMovimento>& movimenti, short contatore = -1) {
-        ApriRecord(File(".MOV"), RecMovimento::Lunghezza, 1);
-        for (std::size_t i = 0; i < movimenti.size(); ++i)
-            ScriviRecord(movimenti[i], static_cast<long>(i + 1), 1);
-        ChiudiRecord(1);
+        ConRecord(File(".MOV"), RecMovimento::Lunghezza, 1, [&] {
+            for (std::size_t i = 0; i < movimenti.size(); ++i)
+                ScriviRecord(movimenti[i], static_cast<long>(i + 1), 1);
+        });
         ScriviContatore(File(".MOR"),
                         contatore < 0 ? static_cast<short>(movimenti.size()) : contatore);
     }
 
     void ScriviRiporto(double importo) {
-        RecRiporto r;
-        r.DataRiporto = "31/12/2000";
-        r.ImportoRiporto = importo;
-        ScriviIn(File(".RIP"), r, 1);
+        ScriviIn(File(".RIP"), RecRiporto{"31/12/2000", importo}, 1);
     }
 
     // Every record of a file of movements (.MOV or .Ord), to its end.
     std::vector<RecMovimento> Leggi(const std::string& estensione) const {
         auto quanti = fs::file_size(File(estensione)) / RecMovimento::Lunghezza;
         std::vector<RecMovimento> letti(quanti + 1);
-        ApriRecord(File(estensione), RecMovimento::Lunghezza, 1);
-        LeggiRecords(letti, 1, static_cast<long>(quanti), 1);
-        ChiudiRecord(1);
+        ConRecord(File(estensione), RecMovimento::Lunghezza, 1,
+                  [&] { LeggiRecords(letti, 1, static_cast<long>(quanti), 1); });
         letti.erase(letti.begin());
         return letti;
     }
