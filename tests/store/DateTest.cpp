@@ -4,63 +4,46 @@
 #include "tests/Ambiente.h"
 
 #include <random>
-#include <string>
-#include <vector>
 
 namespace {
-// The value of a reading, or its failure.
 template <class F> std::string Esito(F lettura) {
     std::string valore;
     int guasto = NumeroGuasto([&] { valore = std::to_string(lettura()); });
     return guasto ? "guasto " + std::to_string(guasto) : valore;
 }
 
-// The straight reading of a plain "DD/MM/YYYY" must give what the general one gives.
-void ComeLaLetturaGenerale(const std::string& t) {
-    EXPECT_EQ(Esito([&] { return NumeroData(t); }), Esito([&] { return NumeroDataGenerale(t); }))
-        << '"' << t << '"';
-    EXPECT_EQ(Esito([&] { return GiornoCalendario(t); }),
-              Esito([&] { return GiornoCalendarioGenerale(t); }))
-        << '"' << t << '"';
+// The straight reading of a plain "DD/MM/YYYY" gives what the general one gives, or its failure.
+bool ComeLaLetturaGenerale(const std::string& t) {
+    return Esito([&] { return NumeroData(t); }) + Esito([&] { return GiornoCalendario(t); }) ==
+           Esito([&] { return NumeroDataGenerale(t); }) +
+               Esito([&] { return GiornoCalendarioGenerale(t); });
 }
 } // namespace
 
 TEST(NumeroData, ScalaConLoSfasamentoDiGiugno) {
     const std::pair<std::string, float> casi[] = {
-        {"29/02/2000", 732060}, // 366 * 2000 + 31 + 29
-        {"01/03/2000", 732061}, // 732000 + 59 + 1 (leap) + 1
-        {"01/03/1900", 695460}, // 366 * 1900 + 59 + 1: no leap day in 1900
-        {"01/01/2001", 732367}, // 366 * 2001 + 0 + 1
-        {"30/06/2001", 732555}, // 732366 + 159 + 30
-        {"10/07/2001", 732557}, // 732366 + 181 + 10
-        {"30/06/2000", 732190}, // 732000 + 160 + 30
-        {"15032001", 732440},   // "15", "03" from characters 3-4, "2001": 732366 + 59 + 15
-        {"1/3/2001", 732426},   // "1/", "3/" after the "/" of character 2, "2001": + 59 + 1
-        {"01/13/2001", 732367}, // a month out of range has no offset
-        {"__/__/____", 0},
-        {"", 0}};
+        {"29/02/2000", 732060}, {"01/03/2000", 732061}, // 366 * 2000 + 31 + 29; + 59 + 1 + 1
+        {"01/03/1900", 695460}, {"01/01/2001", 732367}, // 366 * 1900 + 59 + 1; 366 * 2001 + 1
+        {"30/06/2001", 732555}, {"10/07/2001", 732557}, // 732366 + 159 + 30; 732366 + 181 + 10
+        {"30/06/2000", 732190}, {"15032001", 732440},   // 732000 + 160 + 30; 732366 + 59 + 15
+        {"1/3/2001", 732426},   {"01/13/2001", 732367}, // "1/", "3/": + 59 + 1; no 13th month
+        {"__/__/____", 0},      {"", 0}};
     for (const auto& [testo, atteso] : casi) EXPECT_EQ(NumeroData(testo), atteso) << testo;
-    EXPECT_EQ(NumeroData("23/06/2001"), NumeroData("01/07/2001"));
     PartiData p = DividiData("05/1_/2001");
-    EXPECT_EQ((std::vector<short>{p.giorno, p.mese, p.anno}), (std::vector<short>{5, 1, 2001}));
+    EXPECT_EQ(p.giorno * 10000 + p.mese * 1000 + p.anno, 50000 + 1000 + 2001);
     EXPECT_EQ(NumeroGuasto([] { DividiData("01/01/1e10"); }), 6);
 }
 
 TEST(NumeroData, LaScorciatoiaComeLaLetturaGenerale) {
     for (long giorno = -328716; giorno <= 401768; ++giorno) // 01/01/1000 to 31/12/2999
-        ComeLaLetturaGenerale(TestoDaGiorno(giorno));
-    for (const char* testo :
-         {"00/00/0000", "99/99/9999", "31/02/2001", "29/02/1900", "00/13/1999", "01/01/0099",
-          "24/06/2001", "__/__/____", "", "1/3/2001", "01-02-2000", "15032001", "01/02/2000 ",
-          " 01/02/2000", "01/02/20 1", "0a/02/2000", "01/0b/2000", "01/02/200x", "01/02/+200",
-          "-1/02/2000", "01/02/1e10", "01/1_/2001", "\xC3\xA8" "1/02/2000", "01/2/2000"})
-        ComeLaLetturaGenerale(testo);
+        ASSERT_TRUE(ComeLaLetturaGenerale(TestoDaGiorno(giorno))) << giorno;
     std::mt19937 caso(2001);
     for (int giro = 0; giro < 20000; ++giro) {
         std::string testo = "00/00/0000"; // mostly digits where digits go, now and then anything
         for (char& c : testo)
-            if (caso() % 4 == 0 || c != '/') c = "0123456789/ _-."[caso() % 15];
-        ComeLaLetturaGenerale(testo);
+            if (caso() % 4 == 0 || c != '/') c = "0123456789/ _-.+ex\xC3"[caso() % 19];
+        ASSERT_TRUE(ComeLaLetturaGenerale(testo)) << '"' << testo << '"';
+        ASSERT_TRUE(ComeLaLetturaGenerale(testo.substr(0, caso() % 11) + " ")) << testo;
     }
 }
 
@@ -68,26 +51,18 @@ TEST_F(Ambiente, VerificaDataEOggi) {
     const struct {
         int giorno, mese, anno;
         bool buona;
-    } casi[] = {{31, 4, 2000, false}, {29, 2, 1900, false}, {29, 2, 2000, true},
-                {0, 1, 2000, true},   {1, 1, 999, false},   {1, 1, 1000, true},
-                {1, 13, 2000, false}, {1, 0, 2000, false},  {32, 1, 2000, false},
-                {31, 1, 2000, true},  {29, 2, 2001, false}, {30, 4, 2000, true}};
-    const std::string errata = "[Errore]  Data Errata; Inserire la data nel formato GGMMAAAA "
-                               "immettendo lo zero davanti ai numeri con una sola cifra. -> OK";
+    } casi[] = {{31, 4, 2000, false}, {30, 4, 2000, true},  {29, 2, 1900, false},
+                {29, 2, 2000, true},  {29, 2, 2001, false}, {0, 1, 2000, true},
+                {1, 1, 999, false},   {1, 1, 1000, true},   {1, 13, 2000, false},
+                {1, 0, 2000, false},  {32, 1, 2000, false}, {31, 1, 2000, true}};
     for (const auto& c : casi) {
-        bool esito = true;
+        bool esito = c.giorno != 0; // a good date doesn't put back an outcome already false
         VerificaData(c.giorno, c.mese, c.anno, esito);
-        EXPECT_EQ(esito, c.buona) << c.giorno << "/" << c.mese << "/" << c.anno;
-        EXPECT_EQ(Messaggi(), c.buona ? std::vector<std::string>{} : std::vector{errata});
+        EXPECT_EQ(esito, c.buona && c.giorno != 0) << c.giorno << "/" << c.mese << "/" << c.anno;
+        EXPECT_EQ(Messaggi().size(), c.buona ? 0u : 1u);
     }
-    // A good date doesn't put back an outcome already false.
-    bool esito = false;
-    VerificaData(1, 1, 2000, esito);
-    EXPECT_FALSE(esito);
     porta.oggi = DataCivile{7, 3, 2024};
     EXPECT_EQ(Oggi() + " " + Oggi("yy-mm-DD"), "07/03/2024 24-03-07");
-    EXPECT_TRUE(DataVuota("__/__/____"));
-    EXPECT_FALSE(DataVuota("  /  /    "));
 }
 
 TEST(Calendario, GiorniDal30Dicembre1899) {
@@ -97,11 +72,10 @@ TEST(Calendario, GiorniDal30Dicembre1899) {
         {"1/1/29", 47119},       // 2029: 36526 + 29 * 365 + 8 leap days
         {"1/1/30", 10959}};      // 1930: 36526 - 70 * 365 - 17 leap days
     for (const auto& [testo, atteso] : casi) EXPECT_EQ(GiornoCalendario(testo), atteso) << testo;
-    EXPECT_EQ(TestoDaGiorno(36585), "29/02/2000"); // 36526 + 31 + 28
-    EXPECT_EQ(TestoDaGiorno(2958465), "31/12/9999");
+    // 36526 + 31 + 28, and the last day there is.
+    EXPECT_EQ(TestoDaGiorno(36585) + TestoDaGiorno(2958465), "29/02/2000" "31/12/9999");
     EXPECT_EQ(NumeroGuasto([] { TestoDaGiorno(2958466); }), 6);
-    EXPECT_EQ(DifferenzaGiorni("28/02/2000", "01/03/2000"), 2);
-    EXPECT_EQ(DifferenzaGiorni("10/07/2001", "30/06/2001"), -10);
+    EXPECT_EQ(DifferenzaGiorni("10/07/2001", "28/02/2001"), -132); // 10 + 30 + 31 + 30 + 31
     for (const std::string testo : {"00/01/2000", "31/04/2000", "01/13/2000", "29/02/1900", "abc",
                                     "__/__/____", "", "1/1", "01/01/0050", "1a/01/2000",
                                     "01/01/20000"})
