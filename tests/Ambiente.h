@@ -21,6 +21,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -70,11 +71,7 @@ template <class R> R LeggiDa(const fs::path& file, long numero) {
 
 // The headless port that also keeps the form of each box.
 struct PortaCheGuarda : PiattaformaSenzaSchermo {
-    struct Box {
-        std::string titolo;
-        Icona icona;
-        Pulsanti pulsanti;
-    };
+    struct Box { std::string titolo; Icona icona; Pulsanti pulsanti; };
     std::vector<Box> box;
 
     Risposta MsgBox(const std::string& testo, const std::string& titolo, Icona icona,
@@ -85,9 +82,7 @@ struct PortaCheGuarda : PiattaformaSenzaSchermo {
 };
 
 // A click, through the top-level handler: false when it ended in a failure.
-inline bool Clic(Controllo& c) {
-    return EseguiEvento([&] { c.Clicca(); });
-}
+inline bool Clic(Controllo& c) { return EseguiEvento([&] { c.Clicca(); }); }
 
 // Keys typed from `campo` on, each to the control that has the focus by then.
 inline void Digita(Controllo& campo, const std::string& tasti) {
@@ -154,15 +149,9 @@ struct Ambiente : ::testing::Test {
     }
 
     // The messages shown since the last call.
-    std::vector<std::string> Messaggi() {
-        std::vector<std::string> m;
-        m.swap(porta.messaggi);
-        return m;
-    }
+    std::vector<std::string> Messaggi() { return std::exchange(porta.messaggi, {}); }
 
-    void ScriviImposta(const RecImposta& imposta) {
-        ScriviIn(programma / "Imposta.DAT", imposta, 1);
-    }
+    void ScriviImposta(const RecImposta& i) { ScriviIn(programma / "Imposta.DAT", i, 1); }
 
     void ScriviValuta(long numero, const std::string& nome, const std::string& paese,
                       double cambio) {
@@ -231,9 +220,7 @@ struct AmbienteConto : Ambiente {
         c.DareAvere = dA;
     }
 
-    std::string File(const std::string& estensione) const {
-        return radice.string() + "/123" + estensione;
-    }
+    std::string File(const std::string& estensione) const { return radice / ("123" + estensione); }
 
     // The movements as records 1 onwards of .MOV, and their count in .MOR.
     void ScriviMovimenti(const std::vector<RecMovimento>& movimenti, short contatore = -1) {
@@ -245,9 +232,7 @@ struct AmbienteConto : Ambiente {
                         contatore < 0 ? static_cast<short>(movimenti.size()) : contatore);
     }
 
-    void ScriviRiporto(double importo) {
-        ScriviIn(File(".RIP"), RecRiporto{"31/12/2000", importo}, 1);
-    }
+    void ScriviRiporto(double r) { ScriviIn(File(".RIP"), RecRiporto{"31/12/2000", r}, 1); }
 
     // Every record of a file of movements (.MOV or .Ord), to its end.
     std::vector<RecMovimento> Leggi(const std::string& estensione) const {

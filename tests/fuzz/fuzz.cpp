@@ -1,10 +1,7 @@
 // The start of the program on random files, through the port without a display: whatever the
-// files hold, the main window must be up after it. Two targets from this one file. fuzz_avvio
-// starts from random shared files: the colours, the preferences, the accounts and their counter,
-// the causali and theirs, the currencies; the stored data path is blanked, so that the start
-// keeps to the folder of the run. fuzz_conto (FUZZ_CONTO) opens an account on random files of
-// its own: movements and their counter, balances, carried-forward balance, cheque books and
-// cheques with their counters; the account "12" is the stored start account.
+// files hold, the main window must be up after it. fuzz_avvio gives it random shared files, with
+// the stored data path blanked so that the start keeps to the folder of the run; fuzz_conto
+// (FUZZ_CONTO) random files of the account "12", which it opens as the stored start account.
 #include "screen/PiattaformaSenzaSchermo.h"
 #include "shell/Applicazione.h"
 #include "shell/Avvio.h"
@@ -76,17 +73,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* byte, std::size_t quan
     // An installation started once, with the account "12" as start account.
     static const bool installato = [&] {
         AvviaEControlla();
-        RecImposta imposta;
-        imposta.contAvv = "12";
-        imposta.decimali = 2;
         ConRecord((Programma() / "Imposta.DAT").string(), RecImposta::Lunghezza, 1,
-                  [&] { ScriviRecord(imposta, 1, 1); });
-        RecConto conto;
-        conto.Numero = 1;
-        conto.CodConto = "12";
-        conto.NomeBanca = "Banca";
-        ConRecord((dati / "Conti.dat").string(), RecConto::Lunghezza, 1,
-                  [&] { ScriviRecord(conto, 1, 1); });
+                  [] { ScriviRecord(RecImposta{.contAvv = "12", .decimali = 2}, 1, 1); });
+        ConRecord((dati / "Conti.dat").string(), RecConto::Lunghezza, 1, [] {
+            ScriviRecord(RecConto{.Numero = 1, .CodConto = "12", .NomeBanca = "Banca"}, 1, 1);
+        });
         ScriviContatore((dati / "RecConti.dat").string(), 1);
         return true;
     }();

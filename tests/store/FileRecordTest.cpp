@@ -62,29 +62,21 @@ TEST_F(FileRecordTest, OltreLaFineENienteAccorcia) {
 }
 
 TEST_F(FileRecordTest, Guasti) {
-    std::string rip = dir + "AB12.RIP";
+    const std::string rip = dir + "AB12.RIP";
     RecRiporto r;
-    RecIntero intero;
     std::vector<RecRiporto> righe(3);
-    const struct {
-        int lunghezza; // of the records of channel 1, opened first; 0: nothing open
-        std::function<void()> azione;
-        int numero;
-    } casi[] = {
-        {0, [&] { ApriRecord(rip, 18, 0); }, 52},      {0, [&] { ApriRecord(rip, 18, 4); }, 52},
-        {18, [&] { ApriRecord(rip, 18, 1); }, 55},     {0, [&] { LeggiRecord(r, 1, 3); }, 52},
-        {0, [&] { ScriviRecord(r, 1, 3); }, 52},       {18, [&] { LeggiRecord(r, 0, 1); }, 63},
-        {18, [&] { ScriviRecord(r, -1, 1); }, 63},     {2, [&] { LeggiRecord(intero, 0, 1); }, 63},
-        {72, [&] { LeggiRecord(r, 1, 1); }, 59},       {18, [&] { ScriviRecord(intero, 1, 1); }, 59},
-        {18, [&] { LeggiRecords(righe, 1, 3, 1); }, 9},
-        {18, [&] { LeggiRecords(righe, 0, 2, 1); }, 63},
-        {0, [&] { ApriRecord(dir + "manca/AB12.RIP", 18, 1); }, 76},
-        {0, [&] { LeggiContatore(dir + "manca/x.MOR"); }, 76}};
-    for (const auto& c : casi) {
-        if (c.lunghezza) ApriRecord(rip, c.lunghezza, 1);
-        EXPECT_EQ(NumeroGuasto(c.azione), c.numero) << &c - casi;
-        ChiudiTutti();
-    }
+    // Channel 1 open on records of 18 bytes, channel 2 on records of 72, channel 3 closed.
+    ApriRecord(rip, 18, 1);
+    ApriRecord(rip, 72, 2);
+    const std::pair<std::function<void()>, int> casi[] = {
+        {[&] { ApriRecord(rip, 18, 4); }, 52},   {[&] { ApriRecord(rip, 18, 1); }, 55},
+        {[&] { LeggiRecord(r, 1, 3); }, 52},     {[&] { ScriviRecord(r, 1, 0); }, 52},
+        {[&] { LeggiRecord(r, 0, 1); }, 63},     {[&] { ScriviRecord(r, -1, 1); }, 63},
+        {[&] { LeggiRecord(r, 1, 2); }, 59},     {[&] { LeggiRecords(righe, 1, 3, 1); }, 9},
+        {[&] { LeggiRecords(righe, 0, 2, 1); }, 63},
+        {[&] { ApriRecord(dir + "manca/AB12.RIP", 18, 3); }, 76},
+        {[&] { LeggiContatore(dir + "manca/x.MOR"); }, 76}};
+    for (const auto& [azione, numero] : casi) EXPECT_EQ(NumeroGuasto(azione), numero);
 }
 
 TEST_F(FileRecordTest, Contatori) {
