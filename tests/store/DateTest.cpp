@@ -4,6 +4,7 @@
 #include "tests/Ambiente.h"
 
 #include <random>
+#include <tuple>
 
 namespace {
 template <class F> std::string Esito(F lettura) {
@@ -48,29 +49,25 @@ TEST(NumeroData, LaScorciatoiaComeLaLetturaGenerale) {
 }
 
 TEST_F(Ambiente, VerificaDataEOggi) {
-    const struct {
-        int giorno, mese, anno;
-        bool buona;
-    } casi[] = {{31, 4, 2000, false}, {30, 4, 2000, true},  {29, 2, 1900, false},
-                {29, 2, 2000, true},  {29, 2, 2001, false}, {0, 1, 2000, true},
-                {1, 1, 999, false},   {1, 1, 1000, true},   {1, 13, 2000, false},
-                {1, 0, 2000, false},  {32, 1, 2000, false}, {31, 1, 2000, true}};
-    for (const auto& c : casi) {
-        bool esito = c.giorno != 0; // a good date doesn't put back an outcome already false
-        VerificaData(c.giorno, c.mese, c.anno, esito);
-        EXPECT_EQ(esito, c.buona && c.giorno != 0) << c.giorno << "/" << c.mese << "/" << c.anno;
-        EXPECT_EQ(Messaggi().size(), c.buona ? 0u : 1u);
+    const std::tuple<int, int, int, bool> casi[] = {
+        {31, 4, 2000, false}, {30, 4, 2000, true},   {29, 2, 1900, false}, {29, 2, 2000, true},
+        {29, 2, 2001, false}, {0, 1, 2000, true},    {1, 1, 999, false},   {1, 1, 1000, true},
+        {1, 13, 2000, false}, {1, 0, 2000, false},   {32, 1, 2000, false}, {31, 1, 2000, true}};
+    for (const auto& [giorno, mese, anno, buona] : casi) {
+        bool esito = giorno != 0; // a good date doesn't put back an outcome already false
+        VerificaData(giorno, mese, anno, esito);
+        EXPECT_EQ(esito, buona && giorno != 0) << giorno << "/" << mese << "/" << anno;
+        EXPECT_EQ(Messaggi().size(), buona ? 0u : 1u);
     }
     porta.oggi = DataCivile{7, 3, 2024};
     EXPECT_EQ(Oggi() + " " + Oggi("yy-mm-DD"), "07/03/2024 24-03-07");
 }
 
 TEST(Calendario, GiorniDal30Dicembre1899) {
+    // 1999: 36526 - 365; 2029: 36526 + 29 * 365 + 8 leap days; 1930: 36526 - 70 * 365 - 17.
     const std::pair<std::string, long> casi[] = {
-        {"30/12/1899", 0},       {"01/01/2000", 36526}, {"1/1/2000", 36526},
-        {" 01/01/2000 ", 36526}, {"01/01/99", 36161},   // 36526 - 365
-        {"1/1/29", 47119},       // 2029: 36526 + 29 * 365 + 8 leap days
-        {"1/1/30", 10959}};      // 1930: 36526 - 70 * 365 - 17 leap days
+        {"30/12/1899", 0}, {"01/01/2000", 36526}, {"1/1/2000", 36526}, {" 01/01/2000 ", 36526},
+        {"01/01/99", 36161}, {"1/1/29", 47119}, {"1/1/30", 10959}};
     for (const auto& [testo, atteso] : casi) EXPECT_EQ(GiornoCalendario(testo), atteso) << testo;
     // 36526 + 31 + 28, and the last day there is.
     EXPECT_EQ(TestoDaGiorno(36585) + TestoDaGiorno(2958465), "29/02/2000" "31/12/9999");

@@ -11,21 +11,17 @@
 #include <bit>
 #include <charconv>
 #include <sstream>
-#include <type_traits>
 
 namespace {
 // The fields of a record in disk order between bars: texts right-trimmed, numbers shortest.
+template <std::size_t N> std::string Valore(const Fisso<N>& testo) { return RTrim(testo.Testo()); }
+template <class T> std::string Valore(T numero) {
+    char testo[32];
+    return std::string(testo, std::to_chars(testo, testo + sizeof testo, numero).ptr);
+}
 template <class R> std::string Campi(const R& record) {
     std::string s;
-    R::Campi(record, [&s](const auto& campo) {
-        if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(campo)>>) {
-            char testo[32];
-            s.append(testo, std::to_chars(testo, testo + sizeof testo, campo).ptr);
-        } else {
-            s += RTrim(campo.Testo());
-        }
-        s += '|';
-    });
+    R::Campi(record, [&s](const auto& campo) { s += Valore(campo) + '|'; });
     return s;
 }
 
