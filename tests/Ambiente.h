@@ -1,8 +1,7 @@
 #pragma once
-// The one fixture of the unit tests. A program directory of its own for each test, under a fresh
-// temporary folder that is also the current directory, with the headless port and a new
-// application for every start; the user's actions on the screens, as the script driver does
-// them; and, for the register, an account "123" open in the folder without a start.
+// The one fixture of the unit tests: a fresh temporary folder, also the current directory, with a
+// program directory in it, the headless port and a new application for every start; the user's
+// actions on the screens, as the script driver does them; an account "123" open without a start.
 #include "screen/PiattaformaSenzaSchermo.h"
 #include "shell/Applicazione.h"
 #include "shell/Avvio.h"
@@ -21,6 +20,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -164,10 +164,7 @@ struct Ambiente : ::testing::Test {
     void ScriviConto(const std::string& codice, const std::string& banca, double fido,
                      short numero = 1) {
         RecConto c;
-        c.Numero = numero;
-        c.CodConto = codice;
-        c.NomeBanca = banca;
-        c.Fido = fido;
+        std::tie(c.Numero, c.CodConto, c.NomeBanca, c.Fido) = std::tie(numero, codice, banca, fido);
         ScriviIn(dati / "Conti.dat", c, numero);
         ScriviContatore((dati / "RecConti.dat").string(), numero);
     }
@@ -214,10 +211,8 @@ struct AmbienteConto : Ambiente {
     static void Causale(long n, const std::string& codice, const std::string& descrizione,
                         const std::string& sospeso = "", const std::string& dA = "") {
         RecCausale& c = Stato.Causali[n];
-        c.CodCausale = codice;
-        c.DescCausale = descrizione;
-        c.Sospeso = sospeso;
-        c.DareAvere = dA;
+        std::tie(c.CodCausale, c.DescCausale, c.Sospeso, c.DareAvere) =
+            std::tie(codice, descrizione, sospeso, dA);
     }
 
     std::string File(const std::string& estensione) const { return radice / ("123" + estensione); }
@@ -246,11 +241,9 @@ struct AmbienteConto : Ambiente {
 
     // The only cheque of the account, on leaf 1.
     void ScriviAssegno(int numero, const std::string& note) {
-        RecAssegno assegno;
-        assegno.NrFoglio = 1;
-        assegno.NrAssegno = numero;
-        assegno.NoteAss = note;
-        ScriviIn(File(".FOG"), assegno, 1);
+        RecAssegno a;
+        std::tie(a.NrFoglio, a.NrAssegno, a.NoteAss) = std::tuple(1, numero, note);
+        ScriviIn(File(".FOG"), a, 1);
         ScriviContatore(File(".NRF"), 1);
     }
 

@@ -1,7 +1,7 @@
 // The start of the program on random files, through the port without a display: whatever the
 // files hold, the main window must be up after it. fuzz_avvio gives it random shared files, with
 // the stored data path blanked so that the start keeps to the folder of the run; fuzz_conto
-// (FUZZ_CONTO) random files of the account "12", which it opens as the stored start account.
+// (FUZZ_conto) random files of the account "12", which it opens as the stored start account.
 #include "screen/PiattaformaSenzaSchermo.h"
 #include "shell/Applicazione.h"
 #include "shell/Avvio.h"
@@ -42,12 +42,11 @@ void ScriviFile(const std::uint8_t* byte, std::size_t quanti, const std::vector<
 
 // The program folder of the run, made at the first input and removed when the run ends.
 const fs::path& Programma() {
+    static char cartella[] = "/tmp/mrd-fuzz-XXXXXX";
     static const fs::path programma = [] {
-        char modello[] = "/tmp/mrd-fuzz-XXXXXX";
-        if (!mkdtemp(modello)) std::abort();
-        static const std::string daTogliere = modello;
-        std::atexit([] { fs::remove_all(daTogliere); });
-        return fs::path(daTogliere) / "prog";
+        if (!mkdtemp(cartella)) std::abort();
+        std::atexit([] { fs::remove_all(cartella); });
+        return fs::path(cartella) / "prog";
     }();
     return programma;
 }
@@ -67,7 +66,7 @@ void AvviaEControlla() {
 }
 } // namespace
 
-#ifdef FUZZ_CONTO
+#ifdef FUZZ_conto
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* byte, std::size_t quanti) {
     const fs::path dati = Programma() / "dati";
     // An installation started once, with the account "12" as start account.
@@ -98,12 +97,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* byte, std::size_t quan
                {programma / "colori.col", programma / "Imposta.DAT", dati / "RecConti.dat",
                 dati / "Conti.dat", programma / "RecCausa.dat", programma / "Causali.DAT",
                 programma / "Valute.DAT"});
-    if (fs::exists(programma / "Imposta.DAT")) {
-        std::fstream imposta(programma / "Imposta.DAT",
-                             std::ios::binary | std::ios::in | std::ios::out);
-        imposta.write(std::string(35, ' ').data(),
-                      static_cast<std::streamsize>(
-                          std::min<std::uintmax_t>(35, fs::file_size(programma / "Imposta.DAT"))));
+    const fs::path imposta = programma / "Imposta.DAT";
+    if (fs::exists(imposta)) {
+        std::string blank(std::min<std::uintmax_t>(35, fs::file_size(imposta)), ' ');
+        std::fstream(imposta, std::ios::binary | std::ios::in | std::ios::out)
+            .write(blank.data(), static_cast<std::streamsize>(blank.size()));
     }
     AvviaEControlla();
     return 0;

@@ -22,8 +22,7 @@ TEST(Format, OgniModelloDelProgramma) {
         {0, "##,##0", "0"}, {-7, "##,##0", "-7"}, {12345678.9, "##,##0.000", "12.345.678,900"},
         {-0.00005, "##,##0.0000", "-0,0001"}, {7.5, "0000", "0008"}, {-5, "0000", "-0005"},
         {123456, "0000", "123456"}, {-0.0, "0000", "0000"}, {0, "##", ""}, {5, "##", "5"},
-        {12345, "###0", "12345"}, {12.3456, "00.000", "12,346"}, {9.999, "00.00", "10,00"},
-        {0.000005, "0.00000", "0,00001"},
+        {12345, "###0", "12345"}, {12.3456, "00.000", "12,346"}, {0.000005, "0.00000", "0,00001"},
         // "," between digit places only groups: "##,00" is a whole number of two digits at least.
         {5, "##,00", "05"}, {12.5, "##,00", "13"}, {1234, "##,00", "1.234"},
         {0, lista, ","}, {0.5, lista, ",5"}, {1234.567, lista, "1.234,57"}, {-0.25, lista, "-,25"},
@@ -34,9 +33,6 @@ TEST(Format, OgniModelloDelProgramma) {
         {1234, "0-0", "123-4"}, {0.5, "", ",5"}, {1234.5, "", "1234,5"}, {12, "", "12"}};
     for (const auto& c : casi)
         EXPECT_EQ(Format(c.valore, c.modello), c.atteso) << c.valore << " in " << c.modello;
-    const char* brevi[] = {"", "##,##0", "##,##0.0", "##,##0.00", "##,##0.000", "##,##0.0000", ""};
-    for (int d = -1; d <= 5; ++d) EXPECT_EQ(FormatoBrevePerDecimali(d), brevi[d + 1]) << d;
-    EXPECT_EQ(FormatoImportiPerDecimali(2) + FormatoImportiPerDecimali(5), imp);
 }
 
 TEST(ImportoDaTesto, SeparatoriItaliani) {

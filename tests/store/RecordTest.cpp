@@ -1,5 +1,4 @@
 // The records as they stand on disk, and the fixed-width texts they are made of.
-#include "store/Campi.h"
 #include "store/FileRecord.h"
 #include "store/RecordAnagrafe.h"
 #include "store/RecordAssegni.h"
@@ -77,7 +76,9 @@ TEST(Record, OgniTracciatoComeStaSulDisco) {
     Tracciato<RecChiusura>("30/06/2001|d=0.75|C 123~12");
     Tracciato<RecConto>("#0700=7|000012345678|Conto ordinario~30|Banca Popolare~45|Via Roma 1~45|"
                         "20100|Milano~25|MI|d=5000|R|03069~10|01600~10|IT60X05428");
-    Tracciato<RecCausale>("#0300=3|GC~5|GIROCONTO~25|S|U|1");
+    // Windows-1252 beyond Latin-1: quotes, a byte of no character, Ÿ, the no-break space, ÿ.
+    Tracciato<RecCausale>("#0300=3|GC~5|\x91GIROCONTO\x92\x8D\x9F\xA0\xFF~25="
+                          "‘GIROCONTO’\xC2\x8DŸ\xC2\xA0ÿ|S|U|1");
     Tracciato<RecValuta>("#0F00=15|Lira~25|d=1936.27|Italia~25");
     Tracciato<RecImposta>("/home/utente/dati/~35|12345~12|Euro - Unione Europea~25|#0200=2|"
                           "Mario Rossi~30|segreto~10|#FFFF=-1");
@@ -100,10 +101,16 @@ TEST(Record, OgniTracciatoComeStaSulDisco) {
     Tracciato<RecIntero>("#FEFF=-2");
 }
 
+// Copies between widths, of texts within the room of a field and beyond it.
+TEST(Fisso, CopieTraLarghezze) {
+    const Fisso<30> lungo = "perché è già così, però più in là";
+    Fisso<5> corto{lungo};
+    Fisso<30> ancora;
+    ancora = corto;
+    EXPECT_EQ(corto.Testo() + "|" + ancora.Testo(), "perch|perch" + std::string(25, ' '));
+}
+
 TEST(Cp1252, OgniByteHaUnCarattereEIlRestoPuntiInterrogativi) {
-    const std::pair<unsigned char, std::string> byte[] = {
-        {0x8D, "\xC2\x8D"}, {0x91, "‘"}, {0x9F, "Ÿ"}, {0xA0, "\xC2\xA0"}, {0xFF, "ÿ"}};
-    for (const auto& [b, utf8] : byte) EXPECT_EQ(Utf8DaCp1252(&b, 1), utf8) << int{b};
     for (int b = 0; b < 256; ++b) {
         unsigned char uno = static_cast<unsigned char>(b), scritto = 0;
         Cp1252DaUtf8(Utf8DaCp1252(&uno, 1), &scritto, 1);
