@@ -13,7 +13,7 @@ const Byte RiportoSuDisco = {'3', '1', '/', '1', '2', '/', '2', '0', '0', '0',
                              0,   0,   0,   0,   0,   0,   0xF0, 0xBF};
 } // namespace
 
-TEST_F(AmbienteConto, OltreLaFineENienteAccorcia) {
+TEST_F(AmbienteConto, OltreLaFineERecordTroncati) {
     // Records da to a of .RIP in one read, over records that held something else.
     auto riporti = [&](long da, long a) {
         std::vector<RecRiporto> righe(static_cast<std::size_t>(a + 1), {"01/01/1999", 5});
