@@ -1,8 +1,7 @@
 #pragma once
-// The one fixture of the unit tests. A program directory of its own for each test, under a fresh
-// temporary folder that is also the current directory, with the headless port and a new
-// application for every start; the user's actions on the screens, as the script driver does
-// them; and, for the register, an account "123" open in the folder without a start.
+// The one fixture of the unit tests: a fresh temporary folder, also the current directory, with a
+// program directory in it, the headless port and a new application for every start; the user's
+// actions on the screens, as the script driver does them; an account "123" open without a start.
 #include "screen/PiattaformaSenzaSchermo.h"
 #include "shell/Applicazione.h"
 #include "shell/Avvio.h"
@@ -21,6 +20,8 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -31,10 +32,10 @@ using Byte = std::vector<unsigned char>;
 inline int NumeroGuasto(const std::function<void()>& azione) {
     try {
         azione();
+        return 0;
     } catch (const ErroreEsecuzione& e) {
         return e.numero;
     }
-    return 0;
 }
 
 inline Byte ContenutoFile(const fs::path& file) {
@@ -60,25 +61,17 @@ inline void ScriviFile(const fs::path& file, const Byte& byte) {
 
 // One record written or read at its number, on a file opened and closed here.
 template <class R> void ScriviIn(const fs::path& file, const R& record, long numero) {
-    ApriRecord(file.string(), R::Lunghezza, 1);
-    ScriviRecord(record, numero, 1);
-    ChiudiRecord(1);
+    ConRecord(file.string(), R::Lunghezza, 1, [&] { ScriviRecord(record, numero, 1); });
 }
 template <class R> R LeggiDa(const fs::path& file, long numero) {
     R record;
-    ApriRecord(file.string(), R::Lunghezza, 1);
-    LeggiRecord(record, numero, 1);
-    ChiudiRecord(1);
+    ConRecord(file.string(), R::Lunghezza, 1, [&] { LeggiRecord(record, numero, 1); });
     return record;
 }
 
 // The headless port that also keeps the form of each box.
 struct PortaCheGuarda : PiattaformaSenzaSchermo {
-    struct Box {
-        std::string titolo;
-        Icona icona;
-        Pulsanti pulsanti;
-    };
+    struct Box { std::string titolo; Icona icona; Pulsanti pulsanti; };
     std::vector<Box> box;
 
     Risposta MsgBox(const std::string& testo, const std::string& titolo, Icona icona,
@@ -89,9 +82,7 @@ struct PortaCheGuarda : PiattaformaSenzaSchermo {
 };
 
 // A click, through the top-level handler: false when it ended in a failure.
-inline bool Clic(Controllo& c) {
-    return EseguiEvento([&] { c.Clicca(); });
-}
+inline bool Clic(Controllo& c) { return EseguiEvento([&] { c.Clicca(); }); }
 
 // Keys typed from `campo` on, each to the control that has the focus by then.
 inline void Digita(Controllo& campo, const std::string& tasti) {
@@ -158,34 +149,22 @@ struct Ambiente : ::testing::Test {
     }
 
     // The messages shown since the last call.
-    std::vector<std::string> Messaggi() {
-        std::vector<std::string> m;
-        m.swap(porta.messaggi);
-        return m;
-    }
+    std::vector<std::string> Messaggi() { return std::exchange(porta.messaggi, {}); }
 
-    void ScriviImposta(const RecImposta& imposta) {
-        ScriviIn(programma / "Imposta.DAT", imposta, 1);
-    }
+    void ScriviImposta(const RecImposta& i) { ScriviIn(programma / "Imposta.DAT", i, 1); }
 
     void ScriviValuta(long numero, const std::string& nome, const std::string& paese,
                       double cambio) {
-        RecValuta v;
-        v.Numero = static_cast<std::int16_t>(numero);
-        v.Nome = nome;
-        v.Paese = paese;
-        v.Cambio = cambio;
-        ScriviIn(programma / "Valute.DAT", v, numero);
+        const auto n = static_cast<std::int16_t>(numero);
+        ScriviIn(programma / "Valute.DAT",
+                 RecValuta{.Numero = n, .Nome = nome, .Cambio = cambio, .Paese = paese}, numero);
     }
 
     // An account in the default data directory, as the last of a table of `numero`.
     void ScriviConto(const std::string& codice, const std::string& banca, double fido,
                      short numero = 1) {
         RecConto c;
-        c.Numero = numero;
-        c.CodConto = codice;
-        c.NomeBanca = banca;
-        c.Fido = fido;
+        std::tie(c.Numero, c.CodConto, c.NomeBanca, c.Fido) = std::tie(numero, codice, banca, fido);
         ScriviIn(dati / "Conti.dat", c, numero);
         ScriviContatore((dati / "RecConti.dat").string(), numero);
     }
@@ -204,18 +183,8 @@ inline RecMovimento Mov(int nr, const std::string& dataOper, const std::string& 
                         double importo, const std::string& dA, const std::string& sospeso,
                         const std::string& causale = "VS", const std::string& nrDoc = "",
                         const std::string& annullato = "N") {
-    RecMovimento m;
-    m.NrOper = static_cast<std::int16_t>(nr);
-    m.DataOper = dataOper;
-    m.DataValuta = dataValuta;
-    m.Causale = causale;
-    m.IMPORTO = importo;
-    m.NrDoc = nrDoc;
-    m.DescMovim = "movimento " + std::to_string(nr);
-    m.Sospeso = sospeso;
-    m.D_A = dA;
-    m.Annullato = annullato;
-    return m;
+    return {static_cast<std::int16_t>(nr), dataOper, dataValuta, causale, importo, nrDoc,
+            "movimento " + std::to_string(nr), sospeso, dA, annullato};
 }
 
 // The open account "123" in the test's folder, which is both the data and the program directory,
@@ -242,51 +211,39 @@ struct AmbienteConto : Ambiente {
     static void Causale(long n, const std::string& codice, const std::string& descrizione,
                         const std::string& sospeso = "", const std::string& dA = "") {
         RecCausale& c = Stato.Causali[n];
-        c.CodCausale = codice;
-        c.DescCausale = descrizione;
-        c.Sospeso = sospeso;
-        c.DareAvere = dA;
+        std::tie(c.CodCausale, c.DescCausale, c.Sospeso, c.DareAvere) =
+            std::tie(codice, descrizione, sospeso, dA);
     }
 
-    std::string File(const std::string& estensione) const {
-        return radice.string() + "/123" + estensione;
-    }
+    std::string File(const std::string& estensione) const { return radice / ("123" + estensione); }
 
     // The movements as records 1 onwards of .MOV, and their count in .MOR.
     void ScriviMovimenti(const std::vector<RecMovimento>& movimenti, short contatore = -1) {
-        ApriRecord(File(".MOV"), RecMovimento::Lunghezza, 1);
-        for (std::size_t i = 0; i < movimenti.size(); ++i)
-            ScriviRecord(movimenti[i], static_cast<long>(i + 1), 1);
-        ChiudiRecord(1);
+        ConRecord(File(".MOV"), RecMovimento::Lunghezza, 1, [&] {
+            for (std::size_t i = 0; i < movimenti.size(); ++i)
+                ScriviRecord(movimenti[i], static_cast<long>(i + 1), 1);
+        });
         ScriviContatore(File(".MOR"),
                         contatore < 0 ? static_cast<short>(movimenti.size()) : contatore);
     }
 
-    void ScriviRiporto(double importo) {
-        RecRiporto r;
-        r.DataRiporto = "31/12/2000";
-        r.ImportoRiporto = importo;
-        ScriviIn(File(".RIP"), r, 1);
-    }
+    void ScriviRiporto(double r) { ScriviIn(File(".RIP"), RecRiporto{"31/12/2000", r}, 1); }
 
     // Every record of a file of movements (.MOV or .Ord), to its end.
     std::vector<RecMovimento> Leggi(const std::string& estensione) const {
         auto quanti = fs::file_size(File(estensione)) / RecMovimento::Lunghezza;
         std::vector<RecMovimento> letti(quanti + 1);
-        ApriRecord(File(estensione), RecMovimento::Lunghezza, 1);
-        LeggiRecords(letti, 1, static_cast<long>(quanti), 1);
-        ChiudiRecord(1);
+        ConRecord(File(estensione), RecMovimento::Lunghezza, 1,
+                  [&] { LeggiRecords(letti, 1, static_cast<long>(quanti), 1); });
         letti.erase(letti.begin());
         return letti;
     }
 
     // The only cheque of the account, on leaf 1.
     void ScriviAssegno(int numero, const std::string& note) {
-        RecAssegno assegno;
-        assegno.NrFoglio = 1;
-        assegno.NrAssegno = numero;
-        assegno.NoteAss = note;
-        ScriviIn(File(".FOG"), assegno, 1);
+        RecAssegno a;
+        std::tie(a.NrFoglio, a.NrAssegno, a.NoteAss) = std::tuple(1, numero, note);
+        ScriviIn(File(".FOG"), a, 1);
         ScriviContatore(File(".NRF"), 1);
     }
 
