@@ -99,7 +99,8 @@ int Caratteri(std::string_view testo) {
 }
 
 char* Copia(char* uscita, std::string_view testo) {
-    std::memcpy(uscita, testo.data(), testo.size());
+    // An empty view may have no bytes at all to copy from.
+    if (!testo.empty()) std::memcpy(uscita, testo.data(), testo.size());
     return uscita + testo.size();
 }
 
