@@ -128,7 +128,7 @@ template <int N> char* ADestra(char* uscita, std::string_view testo, int caratte
 // takes the shortcut its general form would give for it: the date number is a whole number,
 // which Str writes as its digits behind a blank or "-"; a movement's number from 0 up is
 // "0000"'s four digits or more.
-std::string Riga(const RecMovimento& m, std::string_view dataChiave, bool marcaAnnullato,
+std::string Riga(const RecMovimento& m, long long chiave, bool marcaAnnullato,
                  DescrizioniInElenco& descrizioni, const ImportiInElenco& importi) {
     char testoImporto[40];
     std::string importoGenerale;
@@ -149,7 +149,6 @@ std::string Riga(const RecMovimento& m, std::string_view dataChiave, bool marcaA
         limite <= sizeof pila ? pila : (grande = std::make_unique<char[]>(limite)).get();
     char* uscita = inizio;
 
-    const long long chiave = NumeroIntero(dataChiave);
     *uscita++ = chiave < 0 ? '-' : ' ';
     uscita = std::to_chars(uscita, uscita + 12, chiave < 0 ? -chiave : chiave).ptr;
     uscita = Spazi<2>(uscita);
@@ -205,18 +204,20 @@ void SalvaTotali() {
 }
 
 // The first and last of one date of the movements, compared as whole date numbers, into
-// `prima` and `ultima` and the selection fields; false when there was nothing to go by: no
-// movements, or `senzaPrimaFerma` and a first date that reads as none.
-bool Estremi(Fisso<10> RecMovimento::*data, Fisso<10>& prima, Fisso<10>& ultima,
-             bool senzaPrimaFerma) {
-    if (Stato.NumMovimenti < 1) return false;
+// `prima` and `ultima` and the selection fields, and the numbers read, at the movements'
+// indices, for the refill that follows; nothing when there was nothing to go by: no movements,
+// or `senzaPrimaFerma` and a first date that reads as none.
+std::vector<int> Estremi(Fisso<10> RecMovimento::*data, Fisso<10>& prima, Fisso<10>& ultima,
+                         bool senzaPrimaFerma) {
+    if (Stato.NumMovimenti < 1) return {};
     auto& M = Stato.Movimenti;
     int numeroPrima = NumeroIntero(M[1].*data);
-    if (senzaPrimaFerma && numeroPrima == 0) return false;
+    if (senzaPrimaFerma && numeroPrima == 0) return {};
     int numeroUltima = numeroPrima;
     prima = ultima = M[1].*data;
+    std::vector<int> numeri(static_cast<std::size_t>(Stato.NumMovimenti) + 1);
     for (long i = 1; i <= Stato.NumMovimenti; ++i) {
-        int numero = NumeroIntero(M[i].*data);
+        const int numero = numeri[static_cast<std::size_t>(i)] = NumeroIntero(M[i].*data);
         if (numeroPrima > numero) {
             numeroPrima = numero;
             prima = M[i].*data;
@@ -229,18 +230,32 @@ bool Estremi(Fisso<10> RecMovimento::*data, Fisso<10>& prima, Fisso<10>& ultima,
     auto& f = App().Form9;
     f.DataInizSel.SetText(prima);
     f.DataFineSel.SetText(ultima);
-    return true;
+    return numeri;
+}
+
+std::vector<int> EstremiLettiOperazione() {
+    std::vector<int> numeri = Estremi(&RecMovimento::DataOper, Stato.PrimaDataOperazione,
+                                      Stato.UltimaDataOperazione, false);
+    if (!numeri.empty()) App().MDIForm1.UltimaData.SetText(Stato.UltimaDataOperazione);
+    return numeri;
+}
+
+std::vector<int> EstremiLettiValuta() {
+    // Nothing to go by either when the first movement has no value date.
+    return Estremi(&RecMovimento::DataValuta, Stato.PrimaDataValuta, Stato.UltimaDataValuta,
+                   true);
 }
 
 // The movements whose `data` falls, by the calendar, between the two selection dates, as lines
 // keyed by that date, into `lista`, which takes the place of `altra` under `titolo`. While Ag
 // applies a filter it is disabled, and the typed dates stay; else `estremi` sets them first. A
 // date the calendar can't read stops the refill with the lines found before it already in the
-// list.
+// list. The date numbers that the extremes read serve as the keys of the lines; without them
+// each line reads its own, so that a failure comes where it always came.
 void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
-            bool marcaAnnullato, void (*estremi)(), const char* titolo) {
+            bool marcaAnnullato, std::vector<int> (*estremi)(), const char* titolo) {
     auto& f = App().Form9;
-    if (f.Ag.Enabled) estremi();
+    const std::vector<int> numeri = f.Ag.Enabled ? estremi() : std::vector<int>{};
     std::string inizio = LTrim(f.DataInizSel.Text());
     std::string fine = LTrim(f.DataFineSel.Text());
     lista.Clear();
@@ -263,9 +278,12 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
                 da = GiornoCalendario(inizio);
                 a = GiornoCalendario(fine);
             }
-            if (giorno >= da && giorno <= a)
-                righe.push_back(Riga(m, m.*data, marcaAnnullato && m.Annullato == "S",
+            if (giorno >= da && giorno <= a) {
+                const int chiave = numeri.empty() ? NumeroIntero(m.*data)
+                                                  : numeri[static_cast<std::size_t>(i)];
+                righe.push_back(Riga(m, chiave, marcaAnnullato && m.Annullato == "S",
                                      descrizioni, importi));
+            }
         }
     } catch (...) {
         consegna();
@@ -279,7 +297,7 @@ void Elenca(Controllo& lista, Controllo& altra, Fisso<10> RecMovimento::*data,
 std::string RigaElenco(const RecMovimento& m, const std::string& dataChiave,
                        bool marcaAnnullato) {
     DescrizioniInElenco descrizioni;
-    return Riga(m, dataChiave, marcaAnnullato, descrizioni, ImportiInElenco());
+    return Riga(m, NumeroIntero(dataChiave), marcaAnnullato, descrizioni, ImportiInElenco());
 }
 
 int NumeroDaRiga(const std::string& riga) {
@@ -396,16 +414,9 @@ void AggiungiMovimento() {
     ElencaSituazione();
 }
 
-void EstremiOperazione() {
-    if (Estremi(&RecMovimento::DataOper, Stato.PrimaDataOperazione, Stato.UltimaDataOperazione,
-                false))
-        App().MDIForm1.UltimaData.SetText(Stato.UltimaDataOperazione);
-}
+void EstremiOperazione() { EstremiLettiOperazione(); }
 
-void EstremiValuta() {
-    // Nothing to go by either when the first movement has no value date.
-    Estremi(&RecMovimento::DataValuta, Stato.PrimaDataValuta, Stato.UltimaDataValuta, true);
-}
+void EstremiValuta() { EstremiLettiValuta(); }
 
 void AllargaEstremi() {
     // Only the last date widens: the first date's half never runs in this design.
@@ -418,13 +429,13 @@ void AllargaEstremi() {
 
 void ElencaPerOperazione() {
     auto& f = App().Form9;
-    Elenca(f.ElencoMovim, f.elencoValuta, &RecMovimento::DataOper, false, &EstremiOperazione,
-           "Elenco Movimenti per data operazione");
+    Elenca(f.ElencoMovim, f.elencoValuta, &RecMovimento::DataOper, false,
+           &EstremiLettiOperazione, "Elenco Movimenti per data operazione");
 }
 
 void ElencaPerValuta() {
     auto& f = App().Form9;
-    Elenca(f.elencoValuta, f.ElencoMovim, &RecMovimento::DataValuta, true, &EstremiValuta,
+    Elenca(f.elencoValuta, f.ElencoMovim, &RecMovimento::DataValuta, true, &EstremiLettiValuta,
            "Elenco Movimenti per data valuta");
 }
 

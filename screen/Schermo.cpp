@@ -94,10 +94,20 @@ void Ordina(std::vector<std::string>& righe) {
         voci[j] = voce;
     }
     if (i < voci.size()) std::sort(voci.begin(), voci.end(), precede);
-    std::vector<std::string> ordinate;
-    ordinate.reserve(righe.size());
-    for (const Voce& v : voci) ordinate.push_back(std::move(righe[v.posto]));
-    righe = std::move(ordinate);
+    // Each line to its place in the same vector, cycle by cycle: place k takes the line from
+    // voci[k].posto, and a place filled is marked with a posto past the end.
+    const std::size_t fatto = righe.size();
+    for (std::size_t inizio = 0; inizio < righe.size(); ++inizio) {
+        if (voci[inizio].posto == fatto) continue;
+        std::string primaRiga = std::move(righe[inizio]);
+        std::size_t posto = inizio;
+        for (std::size_t da; (da = voci[posto].posto) != inizio; posto = da) {
+            righe[posto] = std::move(righe[da]);
+            voci[posto].posto = fatto;
+        }
+        righe[posto] = std::move(primaRiga);
+        voci[posto].posto = fatto;
+    }
 }
 
 bool Modificabile(TipoControllo t) {
@@ -497,6 +507,6 @@ Schermo* SchermoAttivo() { return attivo; }
 
 std::string Riferimento(const Controllo& c) {
     std::string r = c.schermo.nome + "." + c.nome;
-    if (c.indice >= 0) r += "(" + std::to_string(c.indice) + ")";
+    if (c.indice >= 0) r.append("(").append(std::to_string(c.indice)).append(")");
     return r;
 }
