@@ -1,12 +1,9 @@
 #!/bin/bash
-# Non-blank lines of the tests against those of the code: .cpp and .h files only, then every
-# file (scripts, expected outputs, forms and build files included).
+# Non-blank lines of the tests against those of the code: every tracked file under tests/
+# (C++, scripts, expected outputs, forms, build files) against the tracked .cpp and .h files
+# outside it.
 cd "$(dirname "$0")/.." || exit 1
-CODICE="store screen ledger refdata cheques interest closing reports shell ui tools"
-righe() { find "$@" -type f "${filtro[@]}" 2>/dev/null -print0 | xargs -0 -r cat | grep -cv '^\s*$'; }
-for misura in "cpp h" "tutti"; do
-    if [ "$misura" = tutti ]; then filtro=(); else filtro=( \( -name '*.cpp' -o -name '*.h' \) ); fi
-    codice=$(righe $CODICE)
-    prove=$(righe tests)
-    echo "$misura: code $codice, tests $prove ($((100 * prove / codice)) %)"
-done
+righe() { xargs -0 -r cat | grep -cv '^\s*$'; }
+codice=$(git ls-files -z -- '*.cpp' '*.h' | tr '\0' '\n' | grep -v '^tests/' | tr '\n' '\0' | righe)
+prove=$(git ls-files -z -- 'tests/*' | righe)
+echo "code $codice, tests $prove ($((100 * prove / codice)) %)"
